@@ -1,0 +1,34 @@
+# How every target of this tree is made: C++17, our warnings, one source file per host where a layer hides one.
+
+include_guard(GLOBAL)
+
+# lumivo_defaults(TARGET): what holds for libraries, programs and tests alike.
+function(lumivo_defaults target)
+  target_compile_features(${target} PUBLIC cxx_std_17)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+                                           -Woverloaded-virtual -Wformat=2 $<$<BOOL:${LUMIVO_WERROR}>:-Werror>)
+endfunction()
+
+# lumivo_qt(TARGET): the toolkit's strict definitions and its code generators.
+function(lumivo_qt target)
+  set_target_properties(${target} PROPERTIES AUTOMOC ON AUTORCC ON)
+  target_compile_definitions(
+    ${target} PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_CAST_FROM_BYTEARRAY
+                      QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS)
+endfunction()
+
+# lumivo_library(TARGET ALIAS SOURCE...): a static library Lumivo::ALIAS.
+function(lumivo_library target alias)
+  add_library(${target} STATIC ${ARGN})
+  add_library(Lumivo::${alias} ALIAS ${target})
+  lumivo_defaults(${target})
+endfunction()
+
+# lumivo_host_source(TARGET BASE): adds BASE-mac.cpp or BASE-posix.cpp, whichever this host needs.
+function(lumivo_host_source target base)
+  if(APPLE)
+    target_sources(${target} PRIVATE ${base}-mac.cpp)
+  else()
+    target_sources(${target} PRIVATE ${base}-posix.cpp)
+  endif()
+endfunction()
