@@ -1,0 +1,263 @@
+#include "extractor.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <set>
+#include <string>
+
+#include "StrTable.h"
+#include "notify-adapter.h"
+#include "text-ids.h"
+
+#define LOG_UNIT "extractor"
+#include "log.h"
+
+namespace {
+
+const ustring kComponent = "extractor_debug";
+
+constexpr size_t kBlockSize = 10240;
+constexpr int kWriterOptions = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
+
+struct ReaderCloser {
+  void operator()(struct archive* reader) const { archive_read_free(reader); }
+};
+using ArchiveReader = std::unique_ptr<struct archive, ReaderCloser>;
+
+struct WriterCloser {
+  void operator()(struct archive* writer) const { archive_write_free(writer); }
+};
+using ArchiveWriter = std::unique_ptr<struct archive, WriterCloser>;
+
+struct Freer {
+  void operator()(char* text) const { free(text); }
+};
+
+// The path as the kernel sees it, every link followed; empty when it leads nowhere.
+std::string RealPath(const std::string& path) {
+  const std::unique_ptr<char, Freer> resolved(realpath(path.c_str(), nullptr));
+  return resolved ? resolved.get() : std::string();
+}
+
+bool IsLink(const std::string& path) {
+  struct stat info = {};
+  return lstat(path.c_str(), &info) == 0 && S_ISLNK(info.st_mode);
+}
+
+std::string ParentFolder(const std::string& path) {
+  const size_t end = path.find_last_not_of('/');
+  const size_t slash = path.find_last_of('/', end);
+  return slash == std::string::npos || slash == 0 ? "/" : path.substr(0, path.find_last_not_of('/', slash) + 1);
+}
+
+/// Keeps entries from being written through links that lead out of the destination.
+///
+/// The file system itself is asked where a folder lies, so that links behind links, other spellings and names that the
+/// archive uses twice cannot deceive it. As long as the archive made no link, nothing is looked up.
+class LinkGuard {
+ public:
+  explicit LinkGuard(const std::string& root) : root_(root) {}
+
+  /// Whether the way to `path` stays within the destination. A folder may be a link already, so its own name belongs to
+  /// the way; anything else is replaced, not followed.
+  bool StaysInside(const std::string& path, bool isFolder) {
+    if (!hasLinks_) return true;
+    std::string way = isFolder ? path : ParentFolder(path);
+    if (inside_.count(way) != 0) return true;
+
+    // What is missing is made by the writer, within the last folder that is there.
+    std::string resolved = RealPath(way);
+    for (std::string there = way; resolved.empty();) {
+      if (errno != ENOENT || IsLink(there) || there == "/") return false;
+      there = ParentFolder(there);
+      resolved = RealPath(there);
+    }
+    const bool inside = resolved.compare(0, root_.size(), root_) == 0 &&
+                        (resolved.size() == root_.size() || resolved[root_.size()] == '/');
+    if (inside) inside_.insert(std::move(way));
+    return inside;
+  }
+
+  /// A link was written, symbolic or (to one, perhaps) hard: what was looked up before may lie elsewhere now.
+  void LinkWritten(bool symbolic) {
+    hasLinks_ = hasLinks_ || symbolic;
+    inside_.clear();
+  }
+
+ private:
+  const std::string root_;
+  std::set<std::string> inside_;
+  bool hasLinks_ = false;
+};
+
+// A reader of `path`, opened; its error text tells what failed when the result is not ARCHIVE_OK.
+int Open(struct archive* reader, const ustring& path) {
+  archive_read_support_filter_all(reader);
+  archive_read_support_format_all(reader);
+  return archive_read_open_filename(reader, path.c_str(), kBlockSize);
+}
+
+// The reader for the passes that look at headers only; none when it cannot be had, which is logged.
+ArchiveReader OpenForHeaders(const Extractor& extractor) {
+  if (extractor.destination.empty() || extractor.archive.empty()) {
+    LOG_ERROR(kComponent, "Invalid argument\n");
+    return nullptr;
+  }
+  ArchiveReader reader(archive_read_new());
+  if (!reader) {
+    LOG_ERROR(kComponent, "Allocate archive failed\n");
+    return nullptr;
+  }
+  if (Open(reader.get(), extractor.archive) != ARCHIVE_OK) {
+    LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n", archive_error_string(reader.get()));
+    return nullptr;
+  }
+  return reader;
+}
+
+// Puts the entry, and the target when it is a hard link, below the folder.
+void MoveBelow(const std::string& folder, struct archive_entry* entry, const char* name) {
+  archive_entry_set_pathname(entry, (folder + "/" + name).c_str());
+  if (const char* target = archive_entry_hardlink(entry)) {
+    archive_entry_set_hardlink(entry, (folder + "/" + target).c_str());
+  }
+}
+
+bool MayWrite(LinkGuard* guard, struct archive_entry* entry) {
+  const bool isFolder = archive_entry_filetype(entry) == AE_IFDIR;
+  if (!guard->StaysInside(archive_entry_pathname(entry), isFolder)) return false;
+  // Data that follows a hard link is written into its target, and some systems link to what a link leads to.
+  const char* target = archive_entry_hardlink(entry);
+  return target == nullptr || guard->StaysInside(target, true);
+}
+
+// Reads the next entry and writes it. ARCHIVE_OK, ARCHIVE_EOF at the archive's end, or ARCHIVE_FATAL, which is logged.
+int ExtractEntry(struct archive* reader, struct archive* writer, const std::string& folder, LinkGuard* guard) {
+  struct archive_entry* entry = nullptr;
+  const int header = archive_read_next_header(reader, &entry);
+  if (header == ARCHIVE_EOF) return ARCHIVE_EOF;
+  if (header != ARCHIVE_OK) {
+    LOG_ERROR(kComponent, "archive_read_next_header failed: '%s'\n", archive_error_string(reader));
+    return ARCHIVE_FATAL;
+  }
+  const char* name = archive_entry_pathname(entry);
+  if (name == nullptr) {
+    LOG_ERROR(kComponent, "archive_entry_pathname failed");
+    return ARCHIVE_FATAL;
+  }
+  MoveBelow(folder, entry, name);
+
+  int result = ARCHIVE_FAILED;
+  if (MayWrite(guard, entry)) {
+    result = archive_read_extract2(reader, entry, writer);
+  } else {
+    archive_set_error(writer, EPERM, "the way to '%s' leads out of the destination", archive_entry_pathname(entry));
+  }
+  if (result != ARCHIVE_OK) {
+    LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", archive_error_string(writer));
+    return ARCHIVE_FATAL;
+  }
+  const bool symbolic = archive_entry_filetype(entry) == AE_IFLNK;
+  if (symbolic || archive_entry_hardlink(entry) != nullptr) guard->LinkWritten(symbolic);
+  return ARCHIVE_OK;
+}
+
+}  // namespace
+
+int Extractor::Extract() {
+  if (archive.empty() || destination.empty()) {
+    LOG_ERROR(kComponent, "Invalid Argument\n");
+    return -1;
+  }
+  LOG_DEBUG(kComponent, "decompress from '%s' to '%s'\n", archive.c_str(), destination.c_str());
+  Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(kTextPreparing));
+
+  const int total = Count();
+  if (total < 1) {
+    LOG_ERROR(kComponent, "Failed to calculate total file numbers, ret: %d\n", total);
+    return -1;
+  }
+
+  const ArchiveReader reader(archive_read_new());
+  const ArchiveWriter writer(reader ? archive_write_disk_new() : nullptr);
+  if (!reader || !writer) {
+    LOG_ERROR(kComponent, "Allocate extractor failed\n");
+    return -1;
+  }
+  archive_write_disk_set_options(writer.get(), kWriterOptions);
+  if (Open(reader.get(), archive) != ARCHIVE_OK) {
+    LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive.c_str(), archive_error_string(reader.get()));
+    return -1;
+  }
+
+  // The writer replaces a link on the way of a hard link's target by a folder, so it gets a way without links.
+  const std::string resolved = RealPath(destination.c_str());
+  const std::string folder = resolved.empty() ? destination.c_str() : resolved;
+  LinkGuard guard(folder);
+  for (int done = 1;; ++done) {
+    const int result = ExtractEntry(reader.get(), writer.get(), folder, &guard);
+    if (result == ARCHIVE_EOF) return 0;
+    if (result != ARCHIVE_OK) return -1;
+
+    Notify_Adapter::GetInstance()->UpdateProgress(total, done);
+    if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
+      LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n", archive_error_string(writer.get()));
+      return -1;
+    }
+  }
+}
+
+int Extractor::Count() {
+  const ArchiveReader reader = OpenForHeaders(*this);
+  if (!reader) return -1;
+
+  int entries = 0;
+  struct archive_entry* entry = nullptr;
+  while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+    ++entries;
+    archive_read_data_skip(reader.get());
+  }
+  return entries;
+}
+
+int Extractor::List() {
+  const ArchiveReader reader = OpenForHeaders(*this);
+  if (!reader) return -1;
+
+  struct archive_entry* entry = nullptr;
+  while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+    const char* name = archive_entry_pathname(entry);
+    printf("%s\n", name != nullptr ? name : "");
+    fflush(stdout);
+    archive_read_data_skip(reader.get());
+  }
+  return 0;
+}
+
+int Extractor::copy_data(struct archive* reader, struct archive* writer) {
+  if (reader == nullptr || writer == nullptr) {
+    LOG_ERROR(kComponent, "Invalid Argument\n");
+    return -1;
+  }
+  for (;;) {
+    const void* buffer = nullptr;
+    size_t size = 0;
+    la_int64_t offset = 0;
+    const int result = archive_read_data_block(reader, &buffer, &size, &offset);
+    if (result == ARCHIVE_EOF) return 0;
+    if (result != ARCHIVE_OK) {
+      LOG_ERROR(kComponent, "archive_read_data_block failed: '%s'\n", archive_error_string(reader));
+      return -1;
+    }
+    if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
+      LOG_ERROR(kComponent, "archive_write_data_block failed: '%s'\n", archive_error_string(writer));
+      return -1;
+    }
+  }
+}

@@ -1,0 +1,96 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QThread>
+
+class ProcessingProgressDialog;
+class Service;
+
+/// The thread that the Worker lives on: runs its own event loop.
+class HandlerThread : public QThread {
+  Q_OBJECT
+
+ protected:
+  void run() override;
+};
+
+/// Runs the upgrade service, once per process, on a thread of its own.
+///
+/// Created on the main thread and moved to its HandlerThread at once. Never touches the dialog: it reports through its
+/// signals, and the service through Notify_Adapter.
+class Worker : public QObject {
+  Q_OBJECT
+
+ public:
+  Worker();
+
+  /// Asks the thread to end and waits for it, however long the running upgrade still takes, then frees thread and
+  /// service: a running thread is never destroyed. Main thread.
+  ~Worker() override;
+
+  /// Starts the thread. Work that was asked for before waits in its queue.
+  void StartThread();
+
+  /// Asks the thread to leave its event loop once the running slot has returned. Any thread.
+  void QuitThread();
+
+  /// Waits for the thread's end, without a time limit. Not to be called on the thread itself.
+  void JoinThread();
+
+ signals:
+  void sigServiceDone();
+  void sigShowMsg();
+  void sigUpdateProgress(int, int);
+  void sigSetLabelText(const QString&);
+
+ private slots:
+  /// One run: upgrades the per-user installation when it needs the package, cleans up, starts the client. Whatever
+  /// fails on the way is logged, and the client is started all the same.
+  void HandleServicce();
+
+ private:
+  HandlerThread* thread;
+  Service* service;
+};
+
+/// Owns the worker and the progress dialog, and carries the worker's reports to the dialog. Main thread only.
+///
+/// Run(), then Start(), then the application's event loop, which the Launcher ends once the worker is done. Until then
+/// the dialog cannot be closed: neither Escape nor the window system's close button hides it, since hiding the last
+/// window would end the event loop under the running worker.
+class Launcher : public QObject {
+  Q_OBJECT
+
+ public:
+  Launcher();
+  ~Launcher() override;
+
+  /// Starts the worker's thread.
+  void Run();
+
+  /// Has the worker begin its run, as soon as its thread is up.
+  void Start();
+
+ signals:
+  void sigStart();
+
+ protected:
+  /// Swallows what would close the dialog.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private slots:
+  /// Hides the dialog, joins the worker's thread and ends the application's event loop.
+  void LaunchDone();
+
+  /// Shows `steps` of `total` as a percentage, rounded down. A report with a `total` below 1 is ignored. `steps` stays
+  /// below 21,474,837, so that the product fits 32 bits.
+  void UpdateProgress(int total, int steps);
+
+  void SetLabelText(const QString&);
+  void ShowMsgBox();
+
+ private:
+  Worker* worker;
+  ProcessingProgressDialog* dialog;
+};

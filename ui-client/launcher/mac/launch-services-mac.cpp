@@ -1,0 +1,15 @@
+#include <QDesktopServices>
+#include <QProcess>
+#include <QUrl>
+
+#include "mac/launch-services.h"
+
+int UnregisterBundle(const QString& bundle) {
+  return QProcess::execute(QStringLiteral("/System/Library/Frameworks/CoreServices.framework/Frameworks/"
+                                          "LaunchServices.framework/Support/lsregister"),
+                           {QStringLiteral("-u"), bundle});
+}
+
+bool OpenBundle(const QString& bundle) {
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(bundle));
+}

@@ -1,0 +1,90 @@
+#include <fcntl.h>
+#include <signal.h>
+#include <spawn.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QProcess>
+#include <QXmlStreamReader>
+#include <array>
+
+#include "mac/launch-services.h"
+
+extern char** environ;
+
+namespace {
+
+constexpr char kRegistrationTool[] =
+    "/System/Library/Frameworks/CoreServices.framework/Frameworks/LaunchServices.framework/Support/lsregister";
+constexpr int kToolMissing = -2;  // as QProcess::execute says it
+
+// The text of the string that follows the key in a property list; empty when there is none.
+QString PropertyOf(const QString& list, const QString& key) {
+  QFile file(list);
+  if (!file.open(QIODevice::ReadOnly)) return QString();
+
+  QXmlStreamReader xml(&file);
+  bool isNext = false;
+  while (!xml.atEnd()) {
+    if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+    if (isNext) return xml.name() == QLatin1String("string") ? xml.readElementText().trimmed() : QString();
+    isNext = xml.name() == QLatin1String("key") && xml.readElementText().trimmed() == key;
+  }
+  return QString();
+}
+
+QString ExecutableOf(const QString& bundle) {
+  QString name = PropertyOf(bundle + QStringLiteral("/Contents/Info.plist"), QStringLiteral("CFBundleExecutable"));
+  if (name.isEmpty()) name = QStringLiteral("lumivo-drive-ui");
+  return bundle + QStringLiteral("/Contents/MacOS/") + name;
+}
+
+// Owns what posix_spawn is told about the new process.
+struct SpawnPlan {
+  SpawnPlan() {
+    posix_spawn_file_actions_init(&files);
+    posix_spawnattr_init(&attributes);
+  }
+  ~SpawnPlan() {
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&files);
+  }
+  SpawnPlan(const SpawnPlan&) = delete;
+  SpawnPlan& operator=(const SpawnPlan&) = delete;
+
+  posix_spawn_file_actions_t files;
+  posix_spawnattr_t attributes;
+};
+
+// A session of its own, no terminal, no signal blocked or ignored: nothing that ends the launcher reaches the client.
+// The standard streams go nowhere, since whoever reads the launcher's would wait for the client's end too.
+bool StartDetached(const QByteArray& program) {
+  SpawnPlan plan;
+  for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    posix_spawn_file_actions_addopen(&plan.files, fd, "/dev/null", O_RDWR, 0);
+  }
+  sigset_t none;
+  sigset_t all;
+  sigemptyset(&none);
+  sigfillset(&all);
+  posix_spawnattr_setsigmask(&plan.attributes, &none);
+  posix_spawnattr_setsigdefault(&plan.attributes, &all);
+  posix_spawnattr_setflags(&plan.attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+
+  QByteArray name = program;
+  std::array<char*, 2> arguments = {name.data(), nullptr};
+  pid_t pid = 0;
+  return posix_spawn(&pid, program.constData(), &plan.files, &plan.attributes, arguments.data(), environ) == 0;
+}
+
+}  // namespace
+
+int UnregisterBundle(const QString& bundle) {
+  // Where the tool is missing, a look costs less than a process that fails to become it.
+  if (access(kRegistrationTool, X_OK) != 0) return kToolMissing;
+  return QProcess::execute(QLatin1String(kRegistrationTool), {QStringLiteral("-u"), bundle});
+}
+
+bool OpenBundle(const QString& bundle) {
+  return StartDetached(ExecutableOf(bundle).toUtf8());
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "lumivo-service.h"
+
+/// The upgrade of a per-user installation that is an application bundle: how its client is found, stopped and started.
+class MacService : public Service {
+ public:
+  MacService();
+  ~MacService() override;
+
+  /// The one instance of this process, made on the first call, from whichever thread. The Worker makes its own.
+  static MacService* GetInstace();
+
+  /// Ends the client that the pid file names: SIGTERM, a look every second for up to 5 seconds, then SIGKILL. Only a
+  /// value that is the id of one other process is signalled; any other is logged. Blocks for 5 seconds at most.
+  void StopService() override;
+
+  int HandlePackageUpgrade() override;
+  void PostUpgrade() override;
+  void PreUpgrade() override;
+
+  /// True when the package's build number is above the installed one's (a missing or other text counts as 0), or when
+  /// the client's executable is missing. Nothing is ever downgraded.
+  bool IsNeedUpgrade() override;
+
+  void LoadSourceVerInfo();
+  void LoadTargetVerInfo();
+
+  /// Whether there is a client executable in the per-user bundle, executable or not.
+  bool PerUserBinPathExist();
+
+  /// Has the platform forget where it saw the per-user bundle before (a failure is logged only), then open it. 0 when
+  /// the platform accepted that, -1 otherwise. Waits for the first, not for the client.
+  static int LaunchPerUserBin();
+};

@@ -1,0 +1,38 @@
+#include "progress-dialog.h"
+
+#include <QFont>
+#include <QIcon>
+
+#include "StrTable.h"
+#include "lumivo-service.h"
+#include "text-ids.h"
+
+namespace {
+
+constexpr int kWidthPixels = 400;
+
+QString IconPath() {
+  return QString::fromUtf8(Service::GetRootLumivoResourceInstallPath().c_str()) +
+         QStringLiteral("/images/ico_72_lumivo.png");
+}
+
+}  // namespace
+
+ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags()) {
+  const QFont font(QStringLiteral("Arial"), -1, -1, false);
+  const QString icon = IconPath();
+
+  setWindowTitle(StrTable::LoadStr(kTextAppName));
+  setWindowIcon(QIcon(icon));
+  setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
+  setValue(0);
+  setRange(0, 100);
+  setLabelText(StrTable::LoadStr(kTextPreparing));
+  setFont(font);
+  setFixedWidth(kWidthPixels);
+  setModal(true);
+  setWindowModality(Qt::WindowModal);
+  setStyleSheet(QStringLiteral(" QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } "));
+}
+
+ProcessingProgressDialog::~ProcessingProgressDialog() = default;
