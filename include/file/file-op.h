@@ -101,13 +101,14 @@ int FSMKDirP(const ustring& path, char** failedAt, bool replace, unsigned short 
 /// @return 0, -1
 int FSMKDirFromRoot(const ustring& root, const ustring& target);
 
-/// Copies the bytes of a file, no owner, times or permissions, in blocks of up to 32 MiB. An existing destination is
-/// overwritten, not replaced, and links are followed. A failure leaves a partial destination. On success the bytes have
-/// been forced to the disc.
+/// Copies the bytes of a file, no owner, times or permissions, in blocks of up to 32 MiB, and forces them to the disc.
+/// An existing destination is overwritten, not replaced, and links are followed. A failure leaves a partial
+/// destination; one that is only about forcing the bytes to the disc is logged, and leaves the result of a plain copy
+/// at 0.
 ///
 /// @param removeSource  remove the source after the copy; it is kept when the copy could not be forced to the disc
-/// @return 0; -2 the disc or the quota is full; -1 any other failure, also one to remove the source or when both paths
-///     are the same file
+/// @return 0; -2 the disc or the quota is full; -1 any other failure: both paths are the same file, say, or the source
+///     was to be removed and is still there
 int FSCopy(const ustring& source, const ustring& destination, bool removeSource);
 
 /// Moves a file or a folder tree.
@@ -126,7 +127,7 @@ int FSRename(const ustring& source, const ustring& destination, bool exact);
 /// itself is one with a "/" behind it. At most 20 descriptors are open at a time.
 ///
 /// A failure leaves what had not yet been removed. A folder that cannot be opened stays; for `path` itself that counts
-/// as success.
+/// as success. "/" is refused before anything is removed.
 ///
 /// @param flag  not used
 /// @return 0 (also for a missing path), -1 empty path or one that cannot be examined, -3 failed, possibly part-way

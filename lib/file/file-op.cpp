@@ -360,6 +360,7 @@ bool IsSameRegularFile(int fd, const ustring& path) {
 
 int WriteAll(int fd, const char* data, size_t size) {
   while (size > 0) {
+    errno = 0;  // so that a write of nothing reports nothing that came before it
     const ssize_t written = RetryInterrupted([&] { return write(fd, data, size); });
     if (written <= 0) {
       const int error = errno;
