@@ -135,7 +135,7 @@ int main(int argc, char* argv[]) {
   if (!presence.Announce()) return 1;
 
   QWidget window;
-  window.setWindowTitle(QStringLiteral("Lumivo Drive"));
+  window.setWindowTitle(QStringLiteral("Lumivo Drive, build %1").arg(BuildNumber()));
   auto* layout = new QVBoxLayout(&window);
   layout->setContentsMargins(48, 32, 48, 32);
   layout->addWidget(new QLabel(QStringLiteral("Lumivo Drive, build %1").arg(BuildNumber())), 0, Qt::AlignCenter);

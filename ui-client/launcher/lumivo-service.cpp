@@ -23,7 +23,7 @@ ustring FromQt(const QString& text) {
 
 // The name that the per-user bundle is moved aside to in the attempt `index`, 0 to 9.
 ustring GetAppBackupDir(const ustring& appPath, int index) {
-  const ustring path = appPath + "_tmp";
+  ustring path = appPath + "_tmp";
   if (index == 0) return path;
 
   char postfix[8] = {};
