@@ -62,7 +62,7 @@ std::string ParentFolder(const std::string& path) {
 /// archive uses twice cannot deceive it. As long as the archive made no link, nothing is looked up.
 class LinkGuard {
  public:
-  explicit LinkGuard(const std::string& root) : root_(root) {}
+  explicit LinkGuard(const std::string& folder) : folder_(folder) {}
 
   /// Whether the way to `path` stays within the destination. A folder may be a link already, so its own name belongs to
   /// the way; anything else is replaced, not followed.
@@ -78,7 +78,7 @@ class LinkGuard {
       there = ParentFolder(there);
       resolved = RealPath(there);
     }
-    const bool inside = resolved.compare(0, root_.size(), root_) == 0 &&
+    const bool inside = !root_.empty() && resolved.compare(0, root_.size(), root_) == 0 &&
                         (resolved.size() == root_.size() || resolved[root_.size()] == '/');
     if (inside) inside_.insert(std::move(way));
     return inside;
@@ -86,12 +86,15 @@ class LinkGuard {
 
   /// A link was written, symbolic or (to one, perhaps) hard: what was looked up before may lie elsewhere now.
   void LinkWritten(bool symbolic) {
+    // Only now is the destination there for certain.
+    if (symbolic && root_.empty()) root_ = RealPath(folder_);
     hasLinks_ = hasLinks_ || symbolic;
     inside_.clear();
   }
 
  private:
-  const std::string root_;
+  const std::string folder_;
+  std::string root_;
   std::set<std::string> inside_;
   bool hasLinks_ = false;
 };
