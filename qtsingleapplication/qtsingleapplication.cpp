@@ -9,10 +9,13 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QLockFile>
+#include <QThread>
 
 namespace {
 
 constexpr int kConnectMilliseconds = 1000;
+constexpr int kNameLooks = 10;
+constexpr int kNameMilliseconds = 20;
 
 QString GuardPath() {
   QCryptographicHash hash(QCryptographicHash::Sha1);
@@ -64,10 +67,13 @@ QtSingleApplication::Lock QtSingleApplication::TakeLock() {
     }
     if (lock_->error() != QLockFile::LockFailedError) break;
 
-    // The process named in the file lives. It is the holder unless the kernel's lock is free, for then the process id
-    // was given to another process. A file without a process id is just being written by its holder.
+    // The process named in the file lives. It is the holder unless the kernel's lock is free: then the process id was
+    // given to another process. Nobody is named as long as the holder is writing, and for ever after a power cut.
     qint64 pid = 0;
-    if (!lock_->getLockInfo(&pid, nullptr, nullptr) || !lock_->removeStaleLockFile()) return Lock::kHeldElsewhere;
+    for (int look = 0; look < kNameLooks && !lock_->getLockInfo(&pid, nullptr, nullptr); ++look) {
+      QThread::msleep(kNameMilliseconds);
+    }
+    if (!lock_->removeStaleLockFile()) return Lock::kHeldElsewhere;
   }
   qWarning("QtSingleApplication: the lock file '%s' cannot be used", qPrintable(path));
   lock_.reset();
