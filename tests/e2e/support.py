@@ -43,24 +43,8 @@ def tree(folder):
     return found
 
 
-def plant(complete, folder):
-    """Writes what tree() has read."""
-    folder.mkdir(parents=True)
-    for name, (kind, *rest) in complete.items():
-        path = folder / os.fsdecode(name)
-        if kind == "link":
-            path.symlink_to(rest[0])
-        elif kind == "folder":
-            path.mkdir()
-        else:
-            path.write_bytes(rest[0])
-            path.chmod(0o755 if rest[1] else 0o644)
-
-
-def make_client(folder, build, files=0):
-    """A client tree with the test client as its executable and the kinds of entries that real ones have.
-
-    With `files` there are that many more of them, some links and some executable, in folders of fifty."""
+def make_client(folder, build):
+    """A client tree with the test client as its executable and the kinds of entries that real ones have."""
     app = folder / f"client-{build}" / "Lumivo.app"
     for name in ("MacOS", "Resources/help", "Resources/Größe 図"):
         (app / "Contents" / name).mkdir(parents=True)
@@ -70,35 +54,26 @@ def make_client(folder, build, files=0):
     (app / "Contents/Resources/help/tool.sh").write_text("#!/bin/sh\n")
     (app / "Contents/Resources/help/tool.sh").chmod(0o755)
     (app / "Contents/Resources/help/latest").symlink_to("../Größe 図/é.txt")
-    for number in range(files):
-        path = app / f"Contents/Resources/many/ö{number // 50}/{number}"
-        path.parent.mkdir(parents=True, exist_ok=True)
-        if number % 25 == 0:
-            path.symlink_to(str(number + 1))
-        else:
-            path.write_text(f"{build} {number}\n" * (number % 30))
-            path.chmod(0o755 if number % 10 == 1 else 0o644)
     return app
 
 
 class Packages:
-    """Packages by build number and number of additional files, made once per test program."""
+    """Packages by build number, made once per test program."""
 
     scratch = tempfile.TemporaryDirectory(prefix="lumivo-packages-")
     folder = pathlib.Path(scratch.name)
     made = {}
 
     @classmethod
-    def of(cls, build, files=0):
-        if (build, files) not in cls.made:
-            out = cls.folder / f"package-{build}-{files}"
-            app = make_client(cls.folder / str(files), build, files)
+    def of(cls, build):
+        if build not in cls.made:
+            out, app = cls.folder / f"package-{build}", make_client(cls.folder, build)
             subprocess.run([MAKE_PACKAGE, app, out, "--build", str(build), "--reader", os.environ["LUMIVO_READER"]], check=True,
                            stdout=subprocess.DEVNULL)
             complete = tree(app)
             complete[b"Contents/Resources/INFO"] = ("file", (out / "INFO").read_bytes(), False)
-            cls.made[build, files] = (out, complete)
-        return cls.made[build, files]
+            cls.made[build] = (out, complete)
+        return cls.made[build]
 
 
 class Case(unittest.TestCase):
@@ -129,10 +104,10 @@ class Case(unittest.TestCase):
         (bundle / "log/launcher.debug").write_text(LEVELS)
         return bundle
 
-    def put_package(self, build, bundle=None, files=0):
+    def put_package(self, build, bundle=None):
         """Gives the bundle the package of `build`; returns the complete tree that it installs."""
         resources = (bundle or self.bundle) / "Contents/Resources"
-        out, complete = Packages.of(build, files)
+        out, complete = Packages.of(build)
         (resources / "package").mkdir(exist_ok=True)
         for source, target in (("lumivo.lvp", "package/lumivo.lvp"), ("INFO", "INFO")):
             (resources / target).unlink(missing_ok=True)
@@ -146,11 +121,7 @@ class Case(unittest.TestCase):
         """What a session sets, with HOME and the temporary folder of this case."""
         environment = {"HOME": str(self.home), "TMPDIR": str(self.temporary), "PATH": os.environ["PATH"],
                        "QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8"}
-        for name in ("LSAN_OPTIONS", "ASAN_OPTIONS"):
-            if name in os.environ:
-                environment[name] = os.environ[name]
-        environment.update(changes)
-        return {name: value for name, value in environment.items() if value is not None}
+        return {name: value for name, value in {**environment, **changes}.items() if value is not None}
 
     def start(self, bundle=None, command=(), user=None, **changes):
         """Starts the launcher; its output is collected. `command` goes in front of it."""
@@ -180,17 +151,6 @@ class Case(unittest.TestCase):
         wait_for(lambda: len(self.starts()) >= count, f"{count} clients started; log:\n{self.log()}")
         self.assertEqual(len(self.starts()), count)
         return int(self.starts()[-1][0])
-
-    def processes(self):
-        """The process ids of everything that runs from this test's folder."""
-        found = []
-        for process in pathlib.Path("/proc").glob("[0-9]*"):
-            try:
-                if (process / "exe").readlink().is_relative_to(self.folder):
-                    found.append(int(process.name))
-            except OSError:
-                pass
-        return found
 
     def end_clients(self):
         for words in self.starts():
