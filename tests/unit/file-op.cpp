@@ -45,7 +45,7 @@ struct FileOp : ::testing::Test {
     }
     return text;
   }
-  // Calls `function` with the two texts of each row, "a b= result log > b", whose end tells what became of the second.
+  // Calls `function` with both texts of each row, "a b= result log > b"; its end tells what became of b. "-" is empty.
   template <typename Function>
   void Check(Function function, std::string rows) {
     for (size_t at; (at = rows.find('~')) != rows.npos;) rows.replace(at, 1, dir_.path);
@@ -53,7 +53,7 @@ struct FileOp : ::testing::Test {
     for (std::string row; std::getline(stream >> std::ws, row, ';');) {
       std::string first, second;
       std::istringstream(row.substr(0, row.find("= "))) >> first >> second;
-      ustring a(first), b(second);
+      ustring a(first == "-" ? "" : first), b(second);
       const std::string result = std::to_string(function(a, b));
       EXPECT_EQ(row.substr(row.find("= ") + 2), result + Logged() + (b == second ? "" : " > " + b).c_str()) << row;
     }
@@ -74,7 +74,7 @@ TEST_F(FileOp, InfoAndEntriesTellTypeSizeTimeAndSpelling) {
         "/dev/null= 5 > /dev/null;/= 2 > /;.= 2 > ~;real/..= 2 > ~;e\u0301d/f= 1 > ~/\u00e9d/f;way/f= 1 > ~/real/f");
   EXPECT_TRUE(info_.size == 4 && info_.mtime == 2000000000 && info_.mode == 0100640 && info_.name == "f");
   Check([](auto& a, auto& b) { return IsFileExist(a, b == "exact"); },
-        "~/e\u0301= 1;~/e\u0301 exact= 1;~/way exact= 1;~/way/f= 1;~/way/f exact= 0;= 0;none= 0;real/f/x= 0");
+        "~/e\u0301= 1;~/e\u0301 exact= 1;~/way exact= 1;~/way/f= 1;~/way/f exact= 0;-= 0;none= 0;real/f/x= 0");
   _FILE_INFO_tag other = info_;
   EXPECT_TRUE(GetFileInfo("real/f/x", other) == -1 && FSStat("", other, false) == -1 && other == info_);
   EXPECT_TRUE(FSStat("none", other, false) == 0 && !other.exist && other.size == 4) << "only `exist` is set";
@@ -109,7 +109,7 @@ TEST_F(FileOp, FoldersAreMadeOrWhatIsInTheWayIsReported) {
         f 777= -1 INFO: FSMKDirP: path: f is existing file or symbolic link pointed to file > 0)");
   const auto mode = [](const char* path) { return static_cast<unsigned>(fs::status(path).permissions()); };
   EXPECT_TRUE(mode("a/b") == 0750 && mode("a/m") == 0777 && mode("d/n") == 0700 && mode("tofile/r") == 0755);
-  Check([](auto& a, auto& b) { return FSMKDir(a, b == "parents"); }, R"(= -1;d= 0;d/x/y= -2;d/1/2 parents= 0;
+  Check([](auto& a, auto& b) { return FSMKDir(a, b == "parents"); }, R"(-= -1;d= 0;d/x/y= -2;d/1/2 parents= 0;
         f/x= -1 ERROR: FSMKDir: Failed to to file info 'f/x';
         way= -1 ERROR: FSMKDir: Create a folder but local file system is not directory 'way' (3))");
   Check(FSMKDirFromRoot, R"(d d//m= 0 DEBUG: FSMKDirFromRoot: create / DEBUG: FSMKDirFromRoot: create //m;
@@ -138,7 +138,7 @@ TEST_F(FileOp, CopyMovesEveryByteOrSaysWhyNot) {
 TEST_F(FileOp, RenameMovesWithinAndAcrossFileSystems) {
   BuildTree(".", "d d/f=x way>d old=o");
   const auto move = [](auto& a, auto& b) { return FSRename(a, b, a.c_str()[0] == '/'); };  // absolute ones exactly
-  Check(move, "= -1;d= -1;~/way/f x= -2;d d/in= -3;way/f old= 0;way m= 0;d " + std::string(5000, 'x') + "= -100");
+  Check(move, "- x= -1;d= -1;~/way/f x= -2;d d/in= -3;way/f old= 0;way m= 0;d " + std::string(5000, 'x') + "= -100");
   EXPECT_EQ("d/ m>d old=x", ListTree("."));
 
   const TempDir there(fs::exists("/dev/shm") ? "/dev/shm" : dir_.path);
@@ -168,7 +168,7 @@ TEST_F(FileOp, RemoveTakesTheTreeFollowsNoLinkAndStopsAtWhatItMayNotTouch) {
   fs::current_path(dir_.path);
   const rlimit few = {descriptors_ + 19, descriptors_ + 19};  // one is the count's own
   ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &few));
-  Check([](auto& a, auto&) { return FSRemove(a, false); }, R"(t/= 0;way= 0;way2/= 0;f= 0;no= 0;= -1;out/keep/x= -1;
+  Check([](auto& a, auto&) { return FSRemove(a, false); }, R"(t/= 0;way= 0;way2/= 0;f= 0;no= 0;-= -1;out/keep/x= -1;
         own= 0;fix= -3;shut/f= -1;shut= 0 ERROR: FSOpenDir: Failed to open directory 'shut'. Permission denied;
         u= -3 ERROR: FSOpenDir: Failed to open directory 'u/no'. Permission denied)");
   for (const char* name : {"fix", "shut", "u/no"}) fs::permissions(name, fs::perms::owner_all);

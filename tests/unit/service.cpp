@@ -103,14 +103,15 @@ TEST_F(ServiceTest, OnlyTheOneProcessOfThePidFileIsSignalled) {
   const Signals one = {{1234, SIGTERM}};
   EXPECT_EQ(sent("pid=1234"), one);
   EXPECT_EQ(sent("pid = \"1234\" # the client\r\n"), one);
-  for (const char* text : {"", "pid=\"\"\n", "pid=1 2\n"}) EXPECT_EQ(sent(text), Signals()) << text;
-  EXPECT_TRUE(home.Logged("Failed to read pid file '")) << "the last of them";
-  for (const std::string value :
-       {"0", "-1", "4294967295", "4294968530", "99999999999999999999", "abc", std::to_string(getpid()).c_str()}) {
+  for (const std::string& value : std::vector<std::string>{"0", "-1", "4294967295", "4294968530",
+                                                           "99999999999999999999", "abc", std::to_string(getpid())}) {
     EXPECT_EQ(sent("pid=" + value + "\n"), Signals()) << value;
     EXPECT_TRUE(home.Logged("names no process to stop: '" + value + "'\n")) << value;
   }
   EXPECT_TRUE(home.Logged("[NOTE] mac/mac-service("));
+  for (const char* text : {"", "pid=\"\"\n", "pid=1 2\n"}) EXPECT_EQ(sent(text), Signals()) << text;
+  EXPECT_FALSE(home.Logged("to stop: ''"));
+  EXPECT_TRUE(home.Logged("Failed to read pid file '"));
 }
 
 TEST_F(ServiceTest, CopiesTreesAndReportsWhatItCannotCopy) {

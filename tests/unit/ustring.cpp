@@ -29,25 +29,27 @@ std::string written_by(const Action& action) {
   return testing::internal::GetCapturedStderr();
 }
 
-// Acts on " é ", with the first, second, … request for memory refused, which leaves `left`, until all are granted.
+// Acts on " é ", with the first, second, … request for memory refused, which leaves `left`, and then with none.
 void check_act(const char* name, const char* left, const char* text, const char* sizes, void (*act)(ustring&)) {
-  for (int request = 1, refused = true; refused; ++request) {
-    SCOPED_TRACE(testing::Message() << name << ", request " << request);
-    ustring s(" é ");
-    EXPECT_EQ(utf16(s), u" é ");
+  const auto refused = [act](ustring& s, int request) {
     requests.clear();
     until_refusal = request;
     try {
       act(s);
-      refused = false;
     } catch (const std::exception& e) {
-      refused = until_refusal == 0;
-      requests += refused ? "" : e.what();
+      requests += until_refusal > 0 ? e.what() : "";
     }
-    until_refusal = 0;
-    const std::string expected = refused ? left : text;
-    EXPECT_EQ(std::string(s.c_str(), s.length()), expected);
-    EXPECT_EQ(utf16(s), utf16(ustring(expected)));
+    return std::exchange(until_refusal, 0) == 0;
+  };
+  for (int request = 1, again = true; again; ++request) {
+    SCOPED_TRACE(testing::Message() << name << ", request " << request << " of " << sizes);
+    ustring s(" é ");
+    EXPECT_EQ(utf16(s), u" é ");
+    again = refused(s, request);
+    EXPECT_EQ(std::string(s.c_str(), s.length()), again ? left : text);
+    EXPECT_EQ(utf16(s), utf16(ustring(again ? left : text)));
+    EXPECT_FALSE(again && refused(s, 99));
+    EXPECT_EQ(s, text);
   }
 #ifndef __APPLE__
   EXPECT_EQ(requests, sizes) << name;
@@ -55,8 +57,7 @@ void check_act(const char* name, const char* left, const char* text, const char*
 }
 
 // Unlike the standard string's comparison: the difference of the bytes, not just its sign.
-int difference(
-    const std::string& a, const std::string& b, int (*fold)(int) = [](int byte) { return byte; }) {
+int difference(const std::string& a, const std::string& b, int (*fold)(int)) {
   std::size_t i = 0;
   const auto byte = [&](const std::string& s) { return fold(static_cast<unsigned char>(s.c_str()[i])); };
   while (i < a.size() && byte(a) == byte(b)) {
@@ -65,23 +66,23 @@ int difference(
   return byte(a) - byte(b);
 }
 
-// Acts of which a refusal undoes all, and acts that have emptied the string by then.
+// An act, the text it leaves, and what it asks of realloc or throws. A refusal undoes an ACT, and empties a SET.
 #define ACT(act, ...) check_act(#act, " é ", __VA_ARGS__, [](ustring& s) { act; })
 #define SET(act, ...) check_act(#act, "", __VA_ARGS__, [](ustring& s) { act; })
+
 TEST(UString, ChangesReachBothFormsInExactBuffersAndSurviveRefusals) {
-  ACT(ustring("b").swap(s), "b", "4 8 "), ACT(ustring t(s), " é ", "4 8 5 "), ACT(s = ustring(kWide), "x€", "4 8 5 "),
+  ACT(ustring("b").swap(s), "b", "4 8 "), ACT(s = ustring(kWide), "x€", "4 8 5 "), ACT(s.append('b', 2), " é bb", "7 "),
       ACT(s += ustring("abcd").c_str_utf16(), " é abcd", "4 8 5 10 16 9 "), ACT(s.append("bcd", 2), " é bc", "7 "),
-      ACT(s.append('b', 2), " é bb", "7 "), ACT(s.append(kWide, 1), " é x", "10 6 "),
-      ACT(s.append(kWide[1], 2), " é €€", "12 11 "), ACT(s[0] = 'b', "bé ", ""),
-      ACT(s.append(kWide[2], 2) += kWide[0], " é x", "12 6 "), ACT(s.ltrim(" "), "é ", ""), ACT(s.rtrim(" "), " é", ""),
-      ACT(s.trim(s), "", ""), ACT(s.replace(' ', '-'), "-é-", ""), ACT(s.clear(), "", ""),
-      ACT(s += s.c_str(), " é  é ", "9 "), ACT(s += s.c_str_utf16(), " é  é ", "14 9 "),
-      ACT(s.assign(s.c_str(), 1), " ", ""), ACT(s.assign(s.c_str_utf16(), 2), " é", ""),
+      ACT(s.append(kWide, 1), " é x", "10 6 "), ACT(s.append(kWide[1], 2), " é €€", "12 11 "), ACT(s.trim(s), "", ""),
+      ACT(s[0] = 'b', "bé ", ""), ACT(s.append(kWide[2], 2) += kWide[0], " é x", "12 6 "), ACT(s.ltrim(" "), "é ", ""),
+      ACT(s.rtrim(" "), " é", ""), ACT(s.replace(' ', '-'), "-é-", ""), ACT(s.clear(), "", ""), SET(s = "x", "x", ""),
+      ACT(s += s.c_str(), " é  é ", "9 "), ACT(s += s.c_str_utf16(), " é  é ", "14 9 "), SET(s = "", "", "1 "),
+      ACT(s.append(s.c_str(), 1), " é  ", "6 "), ACT(s.append(s.c_str_utf16(), 1), " é  ", "10 6 "),
+      ACT(s.assign(s.c_str(), 1), " ", ""), ACT(s.assign(s.c_str_utf16(), 2), " é", ""), SET(s = kWide, "x€", ""),
       ACT(s.assign(s.c_str_utf16(), 0), "", "1 "), ACT(s = (s = s.c_str()).c_str_utf16(), " é ", ""),
       ACT(s.assign(s, 1, 2), "é", "4 8 "), ACT((ustring(std::move(s)), s += 'b'), "b", "4 8 "),
       ACT(ustring('b') = std::move(s), "", "4 8 "), ACT(s = s + kWide, " é x€", "4 8 5 12 9 "),
-      ACT(s.normalize(ustring::NFD), " é ", "4 8 10 6 "), SET(s = "x", "x", ""), SET(s = "", "", "1 "),
-      SET(s = kWide, "x€", ""), SET(s.clear() += kWide + 2, "", "2 1 "),
+      ACT(s.normalize(ustring::NFD), " é ", "4 8 10 6 "), SET(s.clear() += kWide + 2, "", "2 1 "),
       ACT(s.append('b', s.npos), " é ", "std::bad_alloc"), ACT(s.append(kWide[0], s.npos / 2), " é ", "std::bad_alloc"),
       ACT(s.substr(5), " é ", "substr"), ACT(s.append(s, 5), " é ", "substr"), ACT(s.assign(s, 5), " é ", "substr"),
       ACT(s.append(std::string(), 1), " é ", "basic_string::substr"), ACT(s.assign(ustring(), 1), "", "4 8 substr");
@@ -151,8 +152,9 @@ TEST(UString, AgreesWithTheStandardString) {
       return std::make_tuple(a > b, a < b, a <= b, a >= b, a == b, a != b, a == c, a != c);
     };
     EXPECT_EQ(order(s, t, near.c_str()), order(text, near, near.c_str()));
-    EXPECT_EQ(s.compare(t), difference(text, near));
-    EXPECT_EQ(s.compare(t, n), difference(text.substr(0, n), near.substr(0, n)));
+    const auto same = [](int byte) { return byte; };
+    EXPECT_EQ(s.compare(t), difference(text, near, same));
+    EXPECT_EQ(s.compare(t, n), difference(text.substr(0, n), near.substr(0, n), same));
     EXPECT_EQ(ustring::compare(s, t, true), difference(text, near, std::tolower));
 
     const std::string trimmed = text.substr(0, text.find_last_not_of(x) + 1), part = text.substr(pos, n);
@@ -171,10 +173,9 @@ TEST(UString, NormalizesAsTheUnicodeDataSays) {
   const char command[] = "bsdcat '" LUMIVO_NORMALIZATION_TEST "' | grep '^[0-9A-F]'";
   const std::unique_ptr<FILE, int (*)(FILE*)> file(popen(command, "r"), pclose);
   int cases = 0;
-  for (char line[4096]; std::fgets(line, sizeof line, file.get()) != nullptr && !HasFailure(); ++cases) {
+  for (char line[4096], *at; std::fgets(at = line, sizeof line, file.get()) != nullptr && !HasFailure(); ++cases) {
     SCOPED_TRACE(line);
     ustring c[5];  // source, NFC, NFD, and the two forms of the compatible characters
-    char* at = line;
     for (ustring& text : c) {
       do {
         const unsigned long code = std::strtoul(at, &at, 16), pair = code >= 0x10000 ? 0xDC00 | (code & 0x3FF) : 0;
@@ -194,7 +195,7 @@ TEST(UString, NormalizesAsTheUnicodeDataSays) {
 
 }  // namespace
 
-#ifndef __APPLE__  // whose linker cannot
+#ifndef __APPLE__  // whose linker has no such option
 // The linker leads the library's realloc here, and the malloc that a compiler makes of a realloc of nothing.
 extern "C" void* __real_realloc(void* block, std::size_t size);
 extern "C" void* __wrap_realloc(void* block, std::size_t size) {
