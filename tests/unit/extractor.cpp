@@ -57,8 +57,9 @@ TEST_F(ExtractorTest, ReadsWhatWellKnownToolsWrite) {
   BuildTree(home.folder.path,
             "from/Contents/MacOS from/Contents/MacOS/tool=t from/Contents/Gr\xC3\xB6\xC3\x9F"
             "e= "
-            "from/Contents/current>MacOS/tool");
+            "from/Contents/current>MacOS/tool from/Contents/locked");
   fs::permissions(from + "/Contents/MacOS/tool", fs::perms(0755));
+  fs::permissions(from + "/Contents/locked", fs::perms(0555));
   setlocale(LC_ALL, "C.UTF-8");
   for (const char* command :
        {"tar -czf ../package .", "tar -cJf ../package Contents", "zip -qry ../p.zip . && mv ../p.zip ../package",
@@ -71,6 +72,7 @@ TEST_F(ExtractorTest, ReadsWhatWellKnownToolsWrite) {
     EXPECT_EQ(extractor.Extract(), 0) << home.Log();
     EXPECT_EQ(Extracted(), ListTree(from));
     EXPECT_EQ(fs::status((extractor.destination + "/Contents/MacOS/tool").c_str()).permissions(), fs::perms(0755));
+    EXPECT_EQ(fs::status((extractor.destination + "/Contents/locked").c_str()).permissions(), fs::perms(0755));
   }
 }
 
@@ -127,11 +129,13 @@ TEST_F(ExtractorTest, NothingIsWrittenOutside) {
   }
   EXPECT_FALSE(fs::exists(home.folder / "evil") || fs::exists(home.folder / "new"));
 
+  const fs::path here = fs::current_path();
   fs::current_path(home.folder.path);
   extractor.destination = "made/later";  // relative, and not there before the first entry is written
   WriteTar(extractor.archive.c_str(), "d/ l>d l/x=x");
   EXPECT_EQ(extractor.Extract(), 0) << home.Log();
   EXPECT_EQ(Extracted(), "d/ d/x=x l>d");
+  fs::current_path(here);
 }
 
 TEST_F(ExtractorTest, ADestinationBehindALinkStaysBehindIt) {
@@ -147,6 +151,9 @@ TEST_F(ExtractorTest, EveryFailureHasItsLine) {
   WriteTar(home.folder / "good", "a=" + std::string(200000, 'a') + " b=b");
   WriteTar(home.folder / "empty", "");
   WriteFile(home.folder / "cut", ReadFile(home.folder / "good").substr(0, 100000));
+  // Without the directory at its end a zip can be read from the front, with all entries but without modes and links.
+  ASSERT_EQ(system(("cd '" + home.folder.path + "' && zip -q cut.zip good levels").c_str()), 0);
+  fs::resize_file(home.folder / "cut.zip", fs::file_size(home.folder / "cut.zip") - 40);
   const struct {
     const char* archive;
     int count;
@@ -154,7 +161,8 @@ TEST_F(ExtractorTest, EveryFailureHasItsLine) {
   } cases[] = {{"missing", -1, "archive_read_open_filename failed: '"},
                {"in", -1, "archive_read_open_filename failed: '"},
                {"empty", 0, "Failed to calculate total file numbers, ret: 0\n"},
-               {"cut", 1, "archive_read_extract2 failed: '"}};
+               {"cut", 1, "archive_read_extract2 failed: '"},
+               {"cut.zip", 2, "the directory at its end is missing"}};
   for (const auto& row : cases) {
     SCOPED_TRACE(row.archive);
     extractor.archive = home.folder / row.archive;

@@ -87,7 +87,8 @@ class LinkGuard {
   /// A link was written, symbolic or (to one, perhaps) hard: what was looked up before may lie elsewhere now.
   void LinkWritten(bool symbolic) {
     // Only now is the destination there for certain.
-    if (symbolic && root_.empty()) root_ = RealPath(folder_);
+    // A link in its own place leaves no inside at all.
+    if (symbolic && root_.empty() && !IsLink(folder_)) root_ = RealPath(folder_);
     hasLinks_ = hasLinks_ || symbolic;
     inside_.clear();
   }
@@ -124,6 +125,19 @@ ArchiveReader OpenForHeaders(const Extractor& extractor) {
   return reader;
 }
 
+// A zip that was cut short in the directory at its end can still be read from the front: it then looks whole, but has
+// lost its modes and links. Any other archive passes.
+bool HasItsDirectory(struct archive* opened, const ustring& path) {
+  const bool isZip = (archive_format(opened) & ARCHIVE_FORMAT_BASE_MASK) == ARCHIVE_FORMAT_ZIP;
+  if (!isZip || archive_filter_code(opened, 0) != ARCHIVE_FILTER_NONE) return true;
+
+  const ArchiveReader reader(archive_read_new());
+  struct archive_entry* entry = nullptr;
+  return reader && archive_read_support_format_zip_seekable(reader.get()) == ARCHIVE_OK &&
+         archive_read_open_filename(reader.get(), path.c_str(), kBlockSize) == ARCHIVE_OK &&
+         archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK;
+}
+
 // Puts the entry, and the target when it is a hard link, below the folder.
 void MoveBelow(const std::string& folder, struct archive_entry* entry, const char* name) {
   archive_entry_set_pathname(entry, (folder + "/" + name).c_str());
@@ -155,6 +169,8 @@ int ExtractEntry(struct archive* reader, struct archive* writer, const std::stri
     return ARCHIVE_FATAL;
   }
   MoveBelow(folder, entry, name);
+  // A folder that its owner may not change could not be removed again, by a rollback or the next upgrade.
+  if (archive_entry_filetype(entry) == AE_IFDIR) archive_entry_set_perm(entry, archive_entry_perm(entry) | S_IRWXU);
 
   int result = ARCHIVE_FAILED;
   if (MayWrite(guard, entry)) {
@@ -207,6 +223,11 @@ int Extractor::Extract() {
     const int result = ExtractEntry(reader.get(), writer.get(), folder, &guard);
     if (result == ARCHIVE_EOF) return 0;
     if (result != ARCHIVE_OK) return -1;
+    if (done == 1 && !HasItsDirectory(reader.get(), archive)) {
+      LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive.c_str(),
+                "the directory at its end is missing");
+      return -1;
+    }
 
     Notify_Adapter::GetInstance()->UpdateProgress(total, done);
     if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
