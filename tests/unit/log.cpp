@@ -5,7 +5,6 @@
 #include <cerrno>
 #include <ctime>
 #include <future>
-#include <regex>
 
 #include "support/tree.h"
 
@@ -78,20 +77,22 @@ class LoggerTest : public testing::Test {
 };
 
 TEST_F(LoggerTest, WritesWhatTheComponentsLevelLetsThrough) {
+  // How many of the five levels each component wrote.
   const auto written = [this](const char* config) {
     WriteFile(dir / "levels", config);
-    WriteFile(log, "");
     Open(50);
+    std::string counts;
     for (const ustring component : {"unknown", "default_component", "chatty", "silent", "hex", "minus", "many"}) {
+      WriteFile(log, "");
       for (const int level : {3, 4, 5, 6, 7}) {
-        Logger::LogMsg(static_cast<Logger::Level>(level), component, "%c%d", component[0], level);
+        Logger::LogMsg(static_cast<Logger::Level>(level), component, "%d", level);
       }
+      counts += std::to_string(ReadFile(log).size() / (kStamp + 1));
     }
-    return std::regex_replace(ReadFile(log), std::regex(".{16}(..)"), "$1");
+    return counts;
   };
-  EXPECT_EQ(written("chatty=\"  5abc\"\nsilent=x\nhex=0x7\nminus=-7\ndefault_component=6\nmany=2147483648"),
-            "u3u4d3d4d5d6c3c4c5m3m4m5m6m7");
-  EXPECT_EQ(written("silent=7\nmalformed line\n"), "u3u4d3d4c3c4c5m3m4m5m6m7");
+  EXPECT_EQ(written("chatty=\"  5abc\"\nsilent=x\nhex=0x7\nminus=-7\ndefault_component=6\nmany=2147483648"), "2430005");
+  EXPECT_EQ(written("silent=7\nmalformed line\n"), "2230005");
 }
 
 TEST_F(LoggerTest, StampsEveryOutputWithTheLocalTime) {
