@@ -3,6 +3,7 @@
 import os
 import re
 import shutil
+import signal
 import subprocess
 import unittest
 
@@ -147,6 +148,8 @@ class Instances(Case):
         self.assertNotIn("TavLocale", errors, "a second instance chooses no language")
         self.assert_logged("[DEBUG] main(%d): app has already launched, return\n")
         self.assertIsNone(first.poll())
+        for number in (signal.SIGTERM, signal.SIGHUP):  # the session ends while the client is away
+            first.send_signal(number)
 
         copy = self.copy_bundle("Copy.app")
         self.put_package(3400, copy)
@@ -154,6 +157,7 @@ class Instances(Case):
         self.assertIn("target version = 3400", self.log())
         first.communicate(timeout=30)
         self.assertEqual(first.returncode, 0)
+        self.assertIn("user installation is ready, removing backup app", self.log().rsplit("extract package", 1)[1])
 
     def test_locks_that_nobody_holds_do_not_block(self):
         """What a killed launcher, a power cut and others leave under the lock's name, a living process's id included."""

@@ -64,8 +64,9 @@ int Run(QtSingleApplication* app) {
 
 int main(int argc, char** argv) {
   setlocale(LC_ALL, "");
-  // Whoever started us may have gone: a line that nobody reads must not end the launcher.
-  signal(SIGPIPE, SIG_IGN);
+  // Nothing may end an upgrade half-way, with the client away: neither a line that nobody reads, nor the session's end,
+  // nor a limit on the size of files, which makes the write fail anyhow.
+  for (const int number : {SIGPIPE, SIGHUP, SIGTERM, SIGXFSZ}) signal(number, SIG_IGN);
   Q_INIT_RESOURCE(texts);
   SetPluginFolder(argc > 0 && argv[0] != nullptr ? argv[0] : "");
 
