@@ -29,7 +29,8 @@ class QtSingleApplication : public QApplication {
   ~QtSingleApplication() override;
 
   /// Whether another instance runs. The first call that finds none makes this instance the one that runs, until it is
-  /// destroyed; later calls are cheap. Main thread only. Waits at most a second, and only when no lock can be had.
+  /// destroyed; later calls are cheap. Main thread only. Waits at most about a second, and only when no lock can be had
+  /// or the lock file names nobody.
   bool isRunning();
 
  private:

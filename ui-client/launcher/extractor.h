@@ -18,9 +18,10 @@ class Extractor {
   /// (total, k) after the k-th entry, with the total of Count().
   ///
   /// Nothing is written outside `destination`: absolute names and the targets of hard links are put below it, names
-  /// with
-  /// ".." are refused, and so is an entry whose way leads out of it through a symbolic link. Links themselves are
-  /// extracted as they are. Owners, times, ACLs and extended attributes are not restored; modes are, less the umask.
+  /// with ".." are refused, and so is an entry whose way leads out of it through a symbolic link. Links themselves are
+  /// extracted as they are. Owners, times, ACLs and extended attributes are not restored; modes are, less the umask,
+  /// and with all rights of the owner on folders, so that the tree can be removed again. A zip without the directory at
+  /// its end is refused: it could be read from the front, but its modes and links would be lost.
   ///
   /// @return 0, or -1 for the first entry that cannot be read or written in full, a warning included
   int Extract();
