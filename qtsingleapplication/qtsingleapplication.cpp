@@ -1,19 +1,23 @@
 #include "qtsingleapplication.h"
 
+#include <fcntl.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
-#include <QLocalServer>
-#include <QLocalSocket>
 #include <QLockFile>
 #include <QThread>
+#include <cerrno>
+#include <cstring>
 
 namespace {
 
-constexpr int kConnectMilliseconds = 1000;
+// The name of a socket may have no more than 103 bytes, and about half are in a temporary folder's already.
+constexpr int kNameDigits = 16;
 constexpr int kNameLooks = 10;
 constexpr int kNameMilliseconds = 20;
 
@@ -21,7 +25,8 @@ QString GuardPath() {
   QCryptographicHash hash(QCryptographicHash::Sha1);
   hash.addData(QCoreApplication::applicationFilePath().toUtf8());
   hash.addData(QByteArray::number(getuid()));
-  return QDir::tempPath() + QStringLiteral("/qtsingleapplication-") + QString::fromLatin1(hash.result().toHex());
+  return QDir::tempPath() + QStringLiteral("/qtsingleapplication-") +
+         QString::fromLatin1(hash.result().toHex().left(kNameDigits));
 }
 
 // Whether nothing lies at `path`, or a node of the wanted kind that belongs to this user. Links are not followed.
@@ -31,12 +36,50 @@ bool IsFreeOrOwn(const QString& path, mode_t kind) {
   return (node.st_mode & S_IFMT) == kind && node.st_uid == getuid();
 }
 
+// A new socket with `path` applied to it by `use` (bind or connect): its descriptor, or -1 with errno.
+int OpenSocket(const QByteArray& path, int (*use)(int, const sockaddr*, socklen_t)) {
+  sockaddr_un address = {};
+  address.sun_family = AF_UNIX;
+  if (static_cast<size_t>(path.size()) >= sizeof address.sun_path) {
+    errno = ENAMETOOLONG;
+    return -1;
+  }
+  memcpy(address.sun_path, path.constData(), static_cast<size_t>(path.size()));
+
+  const int fd = socket(AF_UNIX, SOCK_STREAM, 0);
+  if (fd < 0) return -1;
+  fcntl(fd, F_SETFD, FD_CLOEXEC);
+  fcntl(fd, F_SETFL, O_NONBLOCK);
+  if (use(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) return fd;
+  const int error = errno;
+  close(fd);
+  errno = error;
+  return -1;
+}
+
+int Listen(const QByteArray& path) {
+  const int fd = OpenSocket(path, bind);
+  if (fd >= 0) listen(fd, SOMAXCONN);  // nobody is ever accepted, and some systems refuse whom the queue cannot take
+  return fd;
+}
+
+bool Answers(const QByteArray& path) {
+  const int fd = OpenSocket(path, connect);
+  if (fd < 0) return errno == EAGAIN;  // and others keep them waiting
+  close(fd);
+  return true;
+}
+
 }  // namespace
 
 QtSingleApplication::QtSingleApplication(int& argc, char** argv, bool /*GUIenabled*/)
     : QApplication(argc, argv), guardPath_(GuardPath()) {}
 
-QtSingleApplication::~QtSingleApplication() = default;
+QtSingleApplication::~QtSingleApplication() {
+  if (socket_ < 0) return;
+  unlink(QFile::encodeName(guardPath_ + QStringLiteral(".socket")).constData());
+  close(socket_);
+}
 
 bool QtSingleApplication::isRunning() {
   if (isPrimary_) return false;
@@ -81,17 +124,14 @@ QtSingleApplication::Lock QtSingleApplication::TakeLock() {
 }
 
 bool QtSingleApplication::TakeSocket() {
-  const QString path = guardPath_ + QStringLiteral(".socket");
-  server_ = std::make_unique<QLocalServer>();
-  if (server_->listen(path)) return true;
-
+  const QString name = guardPath_ + QStringLiteral(".socket");
+  const QByteArray path = QFile::encodeName(name);
+  socket_ = Listen(path);
   // A socket of this user's that answers belongs to a running instance; one that does not is a crashed one's.
-  if (server_->serverError() == QAbstractSocket::AddressInUseError && IsFreeOrOwn(path, S_IFSOCK)) {
-    QLocalSocket probe;
-    probe.connectToServer(path);
-    if (probe.waitForConnected(kConnectMilliseconds)) return false;
-    if (QLocalServer::removeServer(path) && server_->listen(path)) return true;
+  if (socket_ < 0 && errno == EADDRINUSE && IsFreeOrOwn(name, S_IFSOCK)) {
+    if (Answers(path)) return false;
+    if (unlink(path.constData()) == 0) socket_ = Listen(path);
   }
-  qWarning("QtSingleApplication: no guard against a second instance: %s", qPrintable(server_->errorString()));
+  if (socket_ < 0) qWarning("QtSingleApplication: no guard against a second instance: %s", strerror(errno));
   return true;
 }

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <memory>
 
-class QLocalServer;
 class QLockFile;
 
 /// An application of which one instance runs per executable and user.
@@ -29,8 +28,8 @@ class QtSingleApplication : public QApplication {
   ~QtSingleApplication() override;
 
   /// Whether another instance runs. The first call that finds none makes this instance the one that runs, until it is
-  /// destroyed; later calls are cheap. Main thread only. Waits at most about a second, and only when no lock can be had
-  /// or the lock file names nobody.
+  /// destroyed; later calls are cheap. Main thread only. Waits at most a fifth of a second, and only when the lock file
+  /// names nobody.
   bool isRunning();
 
  private:
@@ -41,6 +40,6 @@ class QtSingleApplication : public QApplication {
 
   const QString guardPath_;
   std::unique_ptr<QLockFile> lock_;
-  std::unique_ptr<QLocalServer> server_;
+  int socket_ = -1;  // listens while it stands for the lock
   bool isPrimary_ = false;
 };
