@@ -1,7 +1,6 @@
 // bench-start KIND PLUGINS CLIENT: what a start of the launcher is compared with. KIND is
-//   same        the launcher's own toolkit calls in their order: application, one catalog, worker thread, hidden
-//   dialog,
-//               detached start of CLIENT by the worker, end of the event loop
+//   same        the launcher's own toolkit calls in their order: application, one catalog, worker thread, a dialog that
+//               stays hidden, detached start of CLIENT by the worker, end of the event loop
 //   bare        an application that starts CLIENT
 //   translator  an application with a translator, which starts CLIENT too
 

@@ -7,12 +7,13 @@
 
 #include <QCoreApplication>
 #include <cstdio>
-#include <cstring>
+#include <cstdlib>
 #include <fstream>
 #include <string>
 
 #include "extractor.h"
 #include "file/file-op.h"
+#include "mac/launch-services.h"
 
 namespace {
 
@@ -52,6 +53,7 @@ int main(int argc, char** argv) {
     fprintf(stderr, "usage: bench-step count|extract|copy SOURCE DESTINATION\n");
     return 2;
   }
+  setenv("TZ", kOwnTimeZone, 0);  // as the launcher does
   // The extractor reports progress through objects that belong to an application.
   QCoreApplication app(argc, argv);
   ForgetPeak();

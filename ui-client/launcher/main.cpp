@@ -5,12 +5,14 @@
 #include <clocale>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 #include "StrTable.h"
 #include "TavLocale.h"
 #include "launcher.h"
 #include "lumivo-service.h"
+#include "mac/launch-services.h"
 #include "qtsingleapplication.h"
 
 #define LOG_UNIT "main"
@@ -64,6 +66,7 @@ int Run(QtSingleApplication* app) {
 
 int main(int argc, char** argv) {
   setlocale(LC_ALL, "");
+  setenv("TZ", kOwnTimeZone, 0);
   // Nothing may end an upgrade half-way, with the client away: neither a line that nobody reads, nor the session's end,
   // nor a limit on the size of files, which makes the write fail anyhow.
   for (const int number : {SIGPIPE, SIGHUP, SIGTERM, SIGXFSZ}) signal(number, SIG_IGN);

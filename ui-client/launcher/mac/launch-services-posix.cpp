@@ -7,6 +7,8 @@
 #include <QProcess>
 #include <QXmlStreamReader>
 #include <array>
+#include <string>
+#include <vector>
 
 #include "mac/launch-services.h"
 
@@ -56,6 +58,17 @@ struct SpawnPlan {
   posix_spawnattr_t attributes;
 };
 
+// What the launcher was started with.
+std::vector<char*> EnvironmentForClient() {
+  const std::string own = std::string("TZ=") + kOwnTimeZone;
+  std::vector<char*> variables;
+  for (char** variable = environ; *variable != nullptr; ++variable) {
+    if (*variable != own) variables.push_back(*variable);
+  }
+  variables.push_back(nullptr);
+  return variables;
+}
+
 // A session of its own, no terminal, no signal blocked or ignored: nothing that ends the launcher reaches the client.
 // The standard streams go nowhere, since whoever reads the launcher's would wait for the client's end too.
 bool StartDetached(const QByteArray& program) {
@@ -74,7 +87,8 @@ bool StartDetached(const QByteArray& program) {
   QByteArray name = program;
   std::array<char*, 2> arguments = {name.data(), nullptr};
   pid_t pid = 0;
-  return posix_spawn(&pid, program.constData(), &plan.files, &plan.attributes, arguments.data(), environ) == 0;
+  return posix_spawn(&pid, program.constData(), &plan.files, &plan.attributes, arguments.data(),
+                     EnvironmentForClient().data()) == 0;
 }
 
 }  // namespace

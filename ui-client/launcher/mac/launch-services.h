@@ -2,6 +2,11 @@
 
 #include <QString>
 
+/// The time zone that the launcher names to itself where none is set: the very file that the C library would use.
+/// Unnamed, it would look at the file again for every time that it converts, several times for each entry of a package.
+/// A client that OpenBundle() starts does not get to see it.
+constexpr char kOwnTimeZone[] = ":/etc/localtime";
+
 /// What the platform's LaunchServices do for an application bundle. Any thread.
 
 /// Has the registration tool forget the bundle, and waits for it. The tool's exit code; negative when it is missing,
