@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QSettings>
 #include <cstdio>
+#include <cstdlib>
 
 #include "extractor.h"
 #include "file/file-op.h"
@@ -44,6 +45,23 @@ void ReadVersion(const ustring& path, VerInfo* version) {
   read(QStringLiteral("minor_version"), &version->minor_version);
   read(QStringLiteral("build_version"), &version->build_version);
   read(QStringLiteral("icon_overlay_version"), &version->icon_overlay_version);
+}
+
+// The build number of a bundle that was extracted to its end, 0 of any other: its version file comes last.
+int CompleteBuild(const ustring& bundle) {
+  if (!IsFileExist(bundle + "/Contents/MacOS/lumivo-drive-ui", false)) return 0;
+  VerInfo version;
+  ReadVersion(bundle + "/Contents/Resources/INFO", &version);
+  return atoi(version.build_version.c_str());
+}
+
+// Removes a bundle. It falls apart in one step first: a removal that is cut short must not leave what looks complete.
+void Discard(const ustring& bundle) {
+  _FILE_INFO_tag info;
+  if (FSStat(bundle, info, false) == 0 && info.exist && info.type == FILE_TYPE_FOLDER) {
+    FSRename(bundle + "/Contents", bundle + "/removed", false);
+  }
+  FSRemove(bundle, false);
 }
 
 }  // namespace
@@ -97,7 +115,9 @@ void Service::LoadTargetVersion() {
 
 // On success `backup` and `index` name where the bundle lies now; both stay as they are when there was no bundle.
 bool Service::MoveAside(ustring* backup, int* index) {
-  if (!IsFileExist(userAppPath, false)) return true;
+  // One that cannot be looked at is there: an extraction over it would mix both.
+  _FILE_INFO_tag info;
+  if (GetFileInfo(userAppPath, info) == 0 && !info.exist) return true;
 
   for (int attempt = 0; attempt < kMaxBackups; ++attempt) {
     const ustring path = GetAppBackupDir(userAppPath, attempt);
@@ -113,14 +133,39 @@ bool Service::MoveAside(ustring* backup, int* index) {
   return false;
 }
 
-void Service::Rollback(const ustring& backup) {
+// After an interrupted run the bundle that was moved aside is a part only, and the last complete one another backup.
+ustring Service::BestBackup(const ustring& made) const {
+  ustring best = made;
+  int build = made.empty() ? 0 : CompleteBuild(made);
+  if (build > 0) return made;
+  for (int i = 0; i < kMaxBackups; ++i) {
+    const ustring path = GetAppBackupDir(userAppPath, i);
+    const int found = CompleteBuild(path);
+    if (found > build) {
+      best = path;
+      build = found;
+    }
+  }
+  return best;
+}
+
+void Service::Rollback(const ustring& made) {
+  const ustring backup = BestBackup(made);
   if (backup.empty()) {
     LOG_ERROR(kComponent, "Failed to extract package, and no old installation to rollback\n");
     return;
   }
   LOG_ERROR(kComponent, "Failed to extract package, rollback to old installation\n");
-  FSRemove(userAppPath, false);
-  FSRename(backup, userAppPath, false);
+  if (!made.empty() && backup != made) Discard(made);
+  Discard(userAppPath);
+  if (FSRename(backup, userAppPath, false) == 0) return;
+
+  // What could not be removed can still be moved out of the way, in the end to the name that becomes free: a later
+  // upgrade removes the backups up to the first free name.
+  ustring rest;
+  int index = 0;
+  if (!MoveAside(&rest, &index) || FSRename(backup, userAppPath, false) != 0) return;
+  if (!rest.empty()) FSRename(rest, backup, false);
 }
 
 int Service::PrepareUserEnv() {
@@ -133,8 +178,9 @@ int Service::PrepareUserEnv() {
     return -1;
   }
   LOG_INFO(kComponent, "user installation is ready, removing backup app\n");
-  // Lower names were not free: earlier runs that were interrupted left something there.
-  for (int i = 0; i <= index; ++i) FSRemove(GetAppBackupDir(userAppPath, i), false);
+  // Lower names were not free: earlier runs that were interrupted left something there. The lowest goes last, so that
+  // what this run may leave is again below the first free name.
+  for (int i = index; i >= 0; --i) Discard(GetAppBackupDir(userAppPath, i));
   return 0;
 }
 

@@ -29,13 +29,17 @@ struct PackageInfo {
 ///
 /// The bundle at the per-user path passes through these states; each step is one rename, or harmless when cut short:
 ///
-/// | state | on disk | a failure, or a start after an interruption |
-/// |---|---|---|
-/// | old | Lumivo.app | nothing to mend |
-/// | aside | Lumivo.app_tmp (or _tmp1 to _tmp9) | failure: moved back; next start: client missing, so extracted anew |
-/// | extracting | backup and a partial Lumivo.app | failure: partial removed, backup moved back; next start: the
-/// version file comes last in a package, so the build is 0 and the client is extracted anew | | new | backup and
-/// Lumivo.app | backups up to the one just made are removed |
+/// | state | on disk |
+/// |---|---|
+/// | old | Lumivo.app |
+/// | aside | a backup, Lumivo.app_tmp or _tmp1 to _tmp9 |
+/// | extracting | the backup and a partial Lumivo.app |
+/// | new | the backup and the new Lumivo.app, then that alone |
+///
+/// A failure goes back to the old state. After an interruption the next start finds the client missing, or, since the
+/// version file comes last in a package, at build 0, and extracts it anew; when that fails, the complete backup with
+/// the highest build number goes back, whichever run made it. A removal is never what leaves a part that looks
+/// complete.
 class Service {
  public:
   Service() = default;
@@ -73,7 +77,8 @@ class Service {
   virtual void LoadTargetVersion();
 
   /// Moves the per-user bundle aside to the first free backup name, extracts the package, and removes the backups up to
-  /// that name, or moves the backup back when the extraction fails. 0; -1 on failure.
+  /// that name, or moves a backup back when the extraction fails: the one just made, or after an interrupted run the
+  /// complete one. 0; -1 on failure.
   virtual int PrepareUserEnv();
 
   /// Removes the application folder of an older per-user layout, where there is one.
@@ -104,6 +109,7 @@ class Service {
 
  private:
   bool MoveAside(ustring* backup, int* index);
-  void Rollback(const ustring& backup);
+  ustring BestBackup(const ustring& made) const;
+  void Rollback(const ustring& made);
   int CopyFolder(const ustring& src, const ustring& dst);
 };
