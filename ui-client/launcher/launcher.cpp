@@ -1,7 +1,12 @@
 #include "launcher.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <cerrno>
 #include <climits>
 
 #include "StrTable.h"
@@ -16,6 +21,30 @@
 namespace {
 
 const ustring kComponent = "launcher_debug";
+
+constexpr int kTurnProbes = 600;
+constexpr unsigned kTurnProbeMilliseconds = 100;
+
+// The turn of one launcher to work on the per-user installation. Copies of it at other paths are instances of their own
+// but share that; whoever comes second sees what the first has installed. Nobody waits longer than a minute, and where
+// the folder cannot be locked nobody waits at all: a client that starts is worth more than the order.
+class Turn {
+ public:
+  explicit Turn(const ustring& folder) : fd_(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+    for (int probe = 0; probe < kTurnProbes && fd_ >= 0; ++probe) {
+      if (flock(fd_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) return;
+      QThread::msleep(kTurnProbeMilliseconds);
+    }
+  }
+  Turn(const Turn&) = delete;
+  Turn& operator=(const Turn&) = delete;
+  ~Turn() {
+    if (fd_ >= 0) close(fd_);
+  }
+
+ private:
+  const int fd_;
+};
 
 }  // namespace
 
@@ -49,6 +78,7 @@ void Worker::JoinThread() {
 
 void Worker::HandleServicce() {
   LOG_DEBUG(kComponent, "running\n");
+  const Turn turn(Service::GetUserLumivoInstallPath());
   service->PreUpgrade();
 
   if (!service->IsNeedUpgrade()) {
