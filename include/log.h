@@ -93,8 +93,7 @@ class Logger {
   static void Unlock();
 
   /// The byte count of the log file and the count of rotations. When one of them is missing both are made anew: no
-  /// bytes
-  /// (-1 where lines do not go to a file) and no rotations.
+  /// bytes (-1 where lines do not go to a file) and no rotations.
   /// @return 0, or -1 with neither of them when memory is exhausted
   static int InitializeSharedData();
   static void DestroySharedData();

@@ -91,8 +91,7 @@ int FSMKDir(const ustring& path, bool parents);
 ///     as `path` is not changed
 /// @param replace   a file in the way is removed
 /// @param mode      exact permissions of the new folders: the process's umask is 0 during the call, for other threads
-/// as
-///     well. 0xFFFF: permissions 0777 less the umask, which is left alone
+///     as well. 0xFFFF: permissions 0777 less the umask, which is left alone
 /// @return 0, -1; `errno` is `EEXIST` when a file stands at the end of the path and may not be replaced
 int FSMKDirP(const ustring& path, char** failedAt, bool replace, unsigned short mode);
 
@@ -174,6 +173,7 @@ int FSCreateTempPath(const ustring& folder, ustring& out);
 /// @return 0, -1
 int FSUTime(const ustring& path, long accessTime, long modificationTime);
 
+/// Whether two times are the same second. Nothing is allowed for file systems that keep only every other second.
 bool FSTimeEqual(long a, long b);
 
 /// Whether permissions forbid the access (`R_OK`, `W_OK`, `X_OK`, `F_OK`); false for a missing file.

@@ -39,9 +39,13 @@ class Worker : public QObject {
   void JoinThread();
 
  signals:
+  /// The run is over; the last signal, on every path.
   void sigServiceDone();
+  /// An upgrade begins, and the dialog should be seen.
   void sigShowMsg();
+  /// (total, steps), as Notify_Adapter reports them.
   void sigUpdateProgress(int, int);
+  /// What the label says from now on, already translated.
   void sigSetLabelText(const QString&);
 
  private slots:
@@ -73,6 +77,7 @@ class Launcher : public QObject {
   void Start();
 
  signals:
+  /// Runs HandleServicce() in the worker's thread.
   void sigStart();
 
  protected:
@@ -88,6 +93,8 @@ class Launcher : public QObject {
   void UpdateProgress(int total, int steps);
 
   void SetLabelText(const QString&);
+
+  /// Shows the dialog, at whatever value and text it has, and does not wait for it.
   void ShowMsgBox();
 
  private:

@@ -4,10 +4,10 @@
 
 /// The version texts of a version file, group "Version". A key that is missing leaves its field as it was.
 struct VerInfo {
-  ustring major_version;
-  ustring minor_version;
-  ustring build_version;  ///< the only one that decides; read as a decimal integer
-  ustring icon_overlay_version;
+  ustring major_version;         ///< told in the log only
+  ustring minor_version;         ///< told in the log only
+  ustring build_version;         ///< the only one that decides; read as a decimal integer
+  ustring icon_overlay_version;  ///< told in the log only
 };
 
 /// The places of a package that lies beside the launcher's executable, UTF-8. Nothing is looked up on disk. Needs the
@@ -15,11 +15,11 @@ struct VerInfo {
 struct PackageInfo {
   PackageInfo();
 
-  ustring imagesPath;
-  ustring logPath;
-  ustring debugConfigPath;
-  ustring packagePath;
-  ustring confPath;
+  ustring imagesPath;       ///< the folder of the pictures
+  ustring logPath;          ///< a log folder in the user's home, not the launcher's own
+  ustring debugConfigPath;  ///< the levels of the log
+  ustring packagePath;      ///< the package archive
+  ustring confPath;         ///< the folder of settings
 };
 
 /// Brings the per-user installation up to date with the package of the launcher's own bundle, and starts the client.

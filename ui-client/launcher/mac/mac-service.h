@@ -5,6 +5,7 @@
 /// The upgrade of a per-user installation that is an application bundle: how its client is found, stopped and started.
 class MacService : public Service {
  public:
+  /// Does nothing but find its paths below the user's home. Needs the application object.
   MacService();
   ~MacService() override;
 
@@ -15,14 +16,20 @@ class MacService : public Service {
   /// value that is the id of one other process is signalled; any other is logged. Blocks for 5 seconds at most.
   void StopService() override;
 
+  /// Stops the client where there is one, then PrepareUserEnv(), whose result it gives.
   int HandlePackageUpgrade() override;
+
+  /// LaunchPerUserBin(); a failure is logged, and there is nothing else to be done about it.
   void PostUpgrade() override;
+
+  /// Loads both versions, the package's first, and logs build and icon overlay of each.
   void PreUpgrade() override;
 
   /// True when the package's build number is above the installed one's (a missing or other text counts as 0), or when
   /// the client's executable is missing. Nothing is ever downgraded.
   bool IsNeedUpgrade() override;
 
+  /// LoadSourceVersion() and LoadTargetVersion() under the names that older callers know.
   void LoadSourceVerInfo();
   void LoadTargetVerInfo();
 
