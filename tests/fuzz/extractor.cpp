@@ -10,43 +10,35 @@
 #include "support/temp-dir.h"
 #include "support/tree.h"
 
-namespace {
-
 namespace fs = std::filesystem;
 
-// A folder with a sentinel beside the destination, for links that lead there, and what it has to look like.
-struct Place {
-  Place() {
-    Logger::Destroy();  // every refused entry would be a line
-    StrTable::InitStrTable();
-    BuildTree(folder.path, "outside/sub outside/secret=s outside/sub/x=x");
-    before = ListTree(folder / "outside");
-    mode = fs::status(folder / "outside").permissions();
-  }
-  bool IsUntouched() const {
-    const auto nodes = std::distance(fs::directory_iterator(folder.path), fs::directory_iterator());
-    return nodes == 1 && ListTree(folder / "outside") == before && fs::status(folder / "outside").permissions() == mode;
-  }
+static const TempDir arena("/dev/shm");
 
-  TempDir folder{"/dev/shm"};
-  std::string before;
-  fs::perms mode;
-};
+// What lies beside the destination, with a folder for links to lead to.
+static std::string Sentinel() {
+  const auto mode = static_cast<unsigned>(fs::status(arena / "outside").permissions());
+  return ListTree(arena.path) + " " + std::to_string(mode);
+}
 
-}  // namespace
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+  Logger::Destroy();  // every refused entry would be a line
+  StrTable::InitStrTable();
+  BuildTree(arena.path, "outside/sub outside/secret=s outside/sub/x=x");
+  return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  static const Place place;
-  WriteFile(place.folder / "package", std::string(reinterpret_cast<const char*>(data), size));
+  static const std::string before = Sentinel();
+  WriteFile(arena / "package", std::string(reinterpret_cast<const char*>(data), size));
+  fs::create_directories(arena / "in");
   Extractor extractor;
-  extractor.destination = place.folder / "in";
-  extractor.archive = place.folder / "package";
-  fs::create_directories(place.folder / "in");
+  extractor.destination = arena / "in";
+  extractor.archive = arena / "package";
   extractor.Extract();
 
   // What was extracted can be removed again.
-  fs::remove_all(place.folder / "in");
-  fs::remove(place.folder / "package");
-  if (!place.IsUntouched()) abort();
+  fs::remove_all(arena / "in");
+  fs::remove(arena / "package");
+  if (Sentinel() != before) abort();
   return 0;
 }

@@ -1,5 +1,4 @@
-#ifndef LUMIVO_TEMP_DIR_H
-#define LUMIVO_TEMP_DIR_H
+#pragma once
 
 #include <unistd.h>
 
@@ -17,9 +16,7 @@ struct TempDir {
   /// Makes the folder below `parent`, by default the system's temporary folder; throws when that fails.
   explicit TempDir(const std::filesystem::path& parent = std::filesystem::temp_directory_path())
       : path((std::filesystem::canonical(parent) / "lumivo-test-XXXXXX").string()) {
-    if (mkdtemp(path.data()) == nullptr) {
-      throw std::runtime_error("no temporary folder: " + path);
-    }
+    if (mkdtemp(path.data()) == nullptr) throw std::runtime_error("no temporary folder: " + path);
   }
   TempDir(const TempDir&) = delete;
   TempDir& operator=(const TempDir&) = delete;
@@ -38,9 +35,7 @@ struct TempDir {
 inline void WriteFile(const std::string& path, const std::string& text) {
   std::ofstream file(path, std::ios::binary | std::ios::trunc);
   file << text;
-  if (!file.flush()) {
-    throw std::runtime_error("cannot write " + path);
-  }
+  if (!file.flush()) throw std::runtime_error("cannot write " + path);
 }
 
 /// The bytes of the file `path`; empty when it cannot be read.
@@ -48,5 +43,3 @@ inline std::string ReadFile(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef LUMIVO_TREE_H
-#define LUMIVO_TREE_H
+#pragma once
 
 #include <filesystem>
 #include <set>
@@ -34,10 +33,6 @@ inline std::string ListTree(const std::string& root) {
                                         : name + "=" + ReadFile(entry.path().string()));
   }
   std::string text;
-  for (const std::string& word : words) {
-    text += (text.empty() ? "" : " ") + word;
-  }
+  for (const std::string& word : words) text += (text.empty() ? "" : " ") + word;
   return text;
 }
-
-#endif
