@@ -1,5 +1,7 @@
 #!/usr/bin/env bash
-# To be sourced. A display for windows, and pictures of the launcher's dialog on it.
+# A display for windows, and pictures of the launcher's dialog on it: to be sourced. Run, it gives a command a display
+# of its own:
+#   scripts/display.sh COMMAND...
 
 # Makes sure that there is a display: Xvfb with a window manager, WIDTH x HEIGHT, where DISPLAY names none. Their process
 # ids are added to `started`, for the caller to end.
@@ -28,3 +30,11 @@ picture_dialog() { # FILE
   sleep 0.3 # it is mapped before it is painted
   import -window "${picture_of:-$window}" "$1"
 }
+
+if [[ ${BASH_SOURCE[0]} == "$0" ]]; then
+  started=()
+  trap 'kill "${started[@]}" 2>/dev/null || true' EXIT
+  DISPLAY=
+  start_display 800 600
+  "$@"
+fi

@@ -4,7 +4,6 @@ import os
 import pathlib
 import re
 import shutil
-import signal
 import stat
 import subprocess
 import tempfile
@@ -12,9 +11,21 @@ import time
 import unittest
 
 BUNDLE = pathlib.Path(os.environ["LUMIVO_BUNDLE"])
-TEST_CLIENT = pathlib.Path(os.environ["LUMIVO_TEST_CLIENT"])
-MAKE_PACKAGE = os.environ["LUMIVO_MAKE_PACKAGE"]
+MAKE_PACKAGE, READER = os.environ["LUMIVO_MAKE_PACKAGE"], os.environ["LUMIVO_READER"]
 LEVELS = "launcher_debug=7\nservice_debug=7\nextractor_debug=7\n"
+ROOT, NOBODY = os.geteuid() == 0, 65534
+EXECUTABLE, INFO = "Contents/MacOS/lumivo-drive-ui", "Contents/Resources/INFO"
+# The client: writes its pid file, and ends the way HOME/client-mode says when it is asked to. As large as a program.
+CLIENT = """#!/bin/sh
+echo "pid=$$" >"$HOME/.Lumivo/ui.pid"
+case $(cat "$HOME/client-mode" 2>/dev/null) in
+  ignore) trap "" TERM ;;
+  linger) trap 'sleep 2; rm -f "$HOME/.Lumivo/ui.pid"; exit' TERM ;;
+  *) trap 'rm -f "$HOME/.Lumivo/ui.pid"; exit' TERM ;;
+esac
+for tenth in $(seq 1200); do sleep 0.1; done
+exit
+""" + "#" * 100_000
 
 
 def wait_for(condition, what, seconds=20):
@@ -26,6 +37,14 @@ def wait_for(condition, what, seconds=20):
             return result
         time.sleep(0.02)
     raise AssertionError(f"timed out: {what}")
+
+
+def alive(pid):
+    """Whether the process runs: a zombie does not."""
+    try:
+        return pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()[0] not in "ZX"
+    except OSError:
+        return False
 
 
 def tree(folder):
@@ -43,75 +62,86 @@ def tree(folder):
     return found
 
 
-def make_client(folder, build):
-    """A client tree with the test client as its executable and the kinds of entries that real ones have."""
-    app = folder / f"client-{build}" / "Lumivo.app"
-    for name in ("MacOS", "Resources/help", "Resources/Größe 図"):
-        (app / "Contents" / name).mkdir(parents=True)
-    shutil.copy(TEST_CLIENT, app / "Contents/MacOS/lumivo-drive-ui")
-    (app / f"Contents/Resources/only in {build}.txt").write_text(f"build {build}\n")
-    (app / "Contents/Resources/Größe 図/é.txt").write_text("accents\n")
-    (app / "Contents/Resources/help/tool.sh").write_text("#!/bin/sh\n")
-    (app / "Contents/Resources/help/tool.sh").chmod(0o755)
+def make_client(app, build, files):
+    """A client with the kinds of entries that real ones have.
+
+    With `files` there are that many more, some of them links and some executable, in folders of fifty."""
+    contents = {"help/tool.sh": "#!/bin/sh\n", "Größe 図/é.txt": "accents\n", f"only in {build}.txt": f"build {build}\n"}
+    for number in range(files):
+        contents[f"many/ö{number // 50}/{number}"] = f"{build} {number}\n" * (number % 30) if number % 25 else None
+    for name, text in contents.items():
+        path = app / "Contents/Resources" / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        if text is None:
+            path.symlink_to("../ö0/1")
+        else:
+            path.write_text(text)
+            path.chmod(0o755 if name[-1] in "1h" else 0o644)
     (app / "Contents/Resources/help/latest").symlink_to("../Größe 図/é.txt")
-    return app
+    (app / EXECUTABLE).parent.mkdir()
+    (app / EXECUTABLE).write_text(CLIENT)
+    (app / EXECUTABLE).chmod(0o755)
 
 
 class Packages:
-    """Packages by build number, made once per test program."""
+    """Installed trees by build and number of additional files, with their nodes; made once, the package beside each."""
 
     scratch = tempfile.TemporaryDirectory(prefix="lumivo-packages-")
-    folder = pathlib.Path(scratch.name)
     made = {}
 
     @classmethod
-    def of(cls, build):
-        if build not in cls.made:
-            out, app = cls.folder / f"package-{build}", make_client(cls.folder, build)
-            subprocess.run([MAKE_PACKAGE, app, out, "--build", str(build), "--reader", os.environ["LUMIVO_READER"]], check=True,
+    def of(cls, build, files=0):
+        if (build, files) not in cls.made:
+            app = pathlib.Path(cls.scratch.name, f"{build}-{files}/Lumivo.app")
+            make_client(app, build, files)
+            subprocess.run([MAKE_PACKAGE, app, app.parent, "--build", str(build), "--reader", READER], check=True,
                            stdout=subprocess.DEVNULL)
-            complete = tree(app)
-            complete[b"Contents/Resources/INFO"] = ("file", (out / "INFO").read_bytes(), False)
-            cls.made[build] = (out, complete)
-        return cls.made[build]
+            shutil.copy(app.parent / "INFO", app / INFO)
+            cls.made[build, files] = (app, tree(app))
+        return cls.made[build, files]
 
 
 class Case(unittest.TestCase):
-    """One test: a folder with a home and a bundle of its own. Ends every client that it started."""
+    """One test: a folder with a bundle of its own, a home and a temporary folder. Ends every client that it started."""
+
+    files = 0  # that clients have in addition
+    home = pathlib.Path("/nowhere")
 
     def setUp(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="lumivo-e2e-")).resolve()
         self.folder.chmod(0o755)
         self.addCleanup(shutil.rmtree, self.folder, ignore_errors=True)
         self.addCleanup(self.end_clients)
-        self.home = self.folder / "home"
-        self.home.mkdir()
-        self.temporary = self.folder / "tmp"
-        self.temporary.mkdir()
-        self.app = self.home / ".Lumivo/Lumivo.app"
         self.bundle = self.copy_bundle("Lumivo.app")
+        self.begin()
+
+    def begin(self, installed=None, package=None, below=None, user=None):
+        """A fresh home, with a complete client that does not run, and the package in the bundle."""
+        self.end_clients()
+        self.home, self.temporary = (pathlib.Path(tempfile.mkdtemp(dir=folder)) for folder in (below or self.folder,
+                                                                                             self.folder))
+        self.app = self.home / ".Lumivo/Lumivo.app"
+        if installed:
+            shutil.copytree(Packages.of(installed, self.files)[0], self.app, symlinks=True)
+        if package:
+            self.put_package(package)
+        if user:
+            subprocess.run(["chown", "-R", f"{user}:{user}", self.home, self.temporary], check=True)
 
     def copy_bundle(self, name):
-        """A copy of the staged bundle, hard-linked where that works."""
-        def link(source, target):
-            try:
-                os.link(source, target)
-            except OSError:
-                shutil.copy2(source, target)
+        """A copy of the staged bundle, without a package and with all levels."""
         bundle = self.folder / name
-        shutil.copytree(BUNDLE, bundle, symlinks=True, copy_function=link,
-                        ignore=shutil.ignore_patterns("lumivo.lvp", "INFO", "launcher.debug"))
+        shutil.copytree(BUNDLE, bundle, symlinks=True, ignore=shutil.ignore_patterns("lumivo.lvp", "INFO"))
+        (bundle / "Contents/Resources/package").mkdir(exist_ok=True)
         (bundle / "log/launcher.debug").write_text(LEVELS)
         return bundle
 
     def put_package(self, build, bundle=None):
         """Gives the bundle the package of `build`; returns the complete tree that it installs."""
         resources = (bundle or self.bundle) / "Contents/Resources"
-        out, complete = Packages.of(build)
-        (resources / "package").mkdir(exist_ok=True)
-        for source, target in (("lumivo.lvp", "package/lumivo.lvp"), ("INFO", "INFO")):
-            (resources / target).unlink(missing_ok=True)
-            shutil.copy(out / source, resources / target)
+        app, complete = Packages.of(build, self.files)
+        shutil.copy(app.parent / "lumivo.lvp", resources / "package")
+        shutil.copy(app.parent / "INFO", resources)
         return complete
 
     def archive(self):
@@ -121,7 +151,7 @@ class Case(unittest.TestCase):
         """What a session sets, with HOME and the temporary folder of this case."""
         environment = {"HOME": str(self.home), "TMPDIR": str(self.temporary), "PATH": os.environ["PATH"],
                        "QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8"}
-        return {name: value for name, value in {**environment, **changes}.items() if value is not None}
+        return {name: str(value) for name, value in {**environment, **changes}.items() if value is not None}
 
     def start(self, bundle=None, command=(), user=None, **changes):
         """Starts the launcher; its output is collected. `command` goes in front of it."""
@@ -130,10 +160,10 @@ class Case(unittest.TestCase):
         return subprocess.Popen([*command, str(executable)], env=self.environment(**changes), cwd=self.folder, text=True,
                                 stdout=subprocess.PIPE, stderr=subprocess.PIPE, **options)
 
-    def run_launcher(self, seconds=60, **options):
+    def run_launcher(self, **options):
         """Runs the launcher to its end, which has to be a good one; returns what it printed."""
         process = self.start(**options)
-        output, errors = process.communicate(timeout=seconds)
+        output, errors = process.communicate(timeout=60)
         self.assertEqual(process.returncode, 0, errors)
         self.assertIn("lib path = '", output)
         return output, errors
@@ -142,28 +172,32 @@ class Case(unittest.TestCase):
         path = self.home / ".Lumivo/log/launcher.log"
         return path.read_text(errors="replace") if path.exists() else ""
 
-    def starts(self):
-        """The starts of clients so far, each a list of words: process id, session id, folder, descriptors."""
-        path = self.home / "starts"
-        return [line.split(" ") for line in path.read_text().splitlines()] if path.exists() else []
+    def clients(self):
+        """The process ids of the clients that run from this test's folder."""
+        line = f"^/bin/sh {self.folder}/.*/lumivo-drive-ui$"
+        return [int(pid) for pid in subprocess.run(["pgrep", "-f", line], stdout=subprocess.PIPE, check=False).stdout.split()]
 
-    def wait_for_starts(self, count):
-        wait_for(lambda: len(self.starts()) >= count, f"{count} clients started; log:\n{self.log()}")
-        self.assertEqual(len(self.starts()), count)
-        return int(self.starts()[-1][0])
+    def wait_for_client(self, *others):
+        """The process id of the one client that runs but for the others, once its pid file is written."""
+        pid_file = self.home / ".Lumivo/ui.pid"
+        new = lambda: [pid for pid in self.clients() if pid not in others]
+        wait_for(lambda: pid_file.exists() and [f"pid={pid}\n" for pid in new()] == [pid_file.read_text()],
+                 f"a client; log:\n{self.log()}")
+        return new()[0]
 
     def end_clients(self):
-        for words in self.starts():
-            if alive(int(words[0])):
-                os.kill(int(words[0]), signal.SIGKILL)
+        """Ends the clients, those too that have only just been started; nobody's process id stays on file."""
+        while clients := self.clients():
+            subprocess.run(["kill", "-KILL", *map(str, clients)], stderr=subprocess.DEVNULL, check=False)
+        if (self.home / ".Lumivo/ui.pid").is_file():
+            (self.home / ".Lumivo/ui.pid").unlink()
 
     def install(self, build):
         """Installs `build` and returns the process id of its client."""
-        complete = self.put_package(build)
-        before = len(self.starts())
+        complete, before = self.put_package(build), self.clients()
         self.run_launcher()
         self.assert_installed(complete)
-        return self.wait_for_starts(before + 1)
+        return self.wait_for_client(*before)
 
     def assert_same_tree(self, found, complete):
         """By name: a difference of whole files would be too long to print."""
@@ -182,33 +216,3 @@ class Case(unittest.TestCase):
             found = re.compile(re.escape(message).replace("%d", r"-?\d+")).search(log, position)
             self.assertTrue(found, f"not logged (in this order): {message}\n{log}")
             position = found.end()
-
-
-def alive(pid):
-    """Whether the process runs: a zombie does not."""
-    try:
-        return pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()[0] not in "ZX"
-    except OSError:
-        return False
-
-
-class Screen(Case):
-    """A test with an X server and a window manager of its own."""
-
-    def setUp(self):
-        super().setUp()
-        reader, writer = os.pipe()
-        server = subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-screen", "0", "800x600x24", "-noreset", "-nolisten",
-                                   "tcp"], pass_fds=[writer], stderr=subprocess.DEVNULL)
-        self.addCleanup(lambda: (server.terminate(), server.wait()))
-        os.close(writer)
-        with os.fdopen(reader) as line:
-            number = line.readline().strip()
-        self.assertTrue(number, "Xvfb did not start")
-        self.display = ":" + number
-        manager = subprocess.Popen(["openbox"], env=self.environment(DISPLAY=self.display), stderr=subprocess.DEVNULL)
-        self.addCleanup(lambda: (manager.terminate(), manager.wait()))
-
-    def xdotool(self, *words):
-        return subprocess.run(["xdotool", *words], env=self.environment(DISPLAY=self.display), capture_output=True,
-                              text=True).stdout.split()

@@ -1,5 +1,4 @@
-#ifndef TESTS_SUPPORT_TEST_HOME_H
-#define TESTS_SUPPORT_TEST_HOME_H
+#pragma once
 
 #include <QByteArray>
 #include <string>
@@ -22,5 +21,3 @@ struct TestHome {
 
   TempDir folder;
 };
-
-#endif
