@@ -120,4 +120,13 @@ TEST_F(ExtractorTest, ADestinationBehindALinkStaysBehindIt) {
   EXPECT_EQ(ListTree(home.folder / "real"), "d/ d/f=data d/s/ d/s/y=y d/x=x h=data l>d");
 }
 
+TEST_F(ExtractorTest, ListsTheEntriesAndRefusesWhatIsMissing) {
+  WriteTar(extractor.archive, "a/ a/1=x");
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(extractor.List(), 0);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "a/\na/1\n");
+  extractor.archive = "";
+  EXPECT_EQ(extractor.Extract() + extractor.Count() + extractor.List() + Extractor::copy_data(nullptr, nullptr), -4);
+}
+
 }  // namespace

@@ -83,11 +83,9 @@ TEST_F(ServiceTest, OnlyTheOneProcessOfThePidFileIsSignalled) {
   EXPECT_EQ(sent("pid = \"1234\" # the client\r\n"), "1234:15 ");
   for (const std::string value : {"0", "-1", "4294967295", "4294968530", "99999999999999999999", "abc", own.c_str()}) {
     EXPECT_EQ(sent("pid=" + value + "\n"), "") << value;
-    EXPECT_TRUE(home.Logged("names no process to stop: '" + value + "'\n")) << value;
+    EXPECT_TRUE(home.Logged("names no process to stop: '" + value + "'\n")) << home.Log();
   }
-  EXPECT_TRUE(home.Logged("[NOTE] mac/mac-service("));
   for (const char* text : {"", "pid=\"\"\n", "pid=1 2\n"}) EXPECT_EQ(sent(text), "") << text;
-  EXPECT_FALSE(home.Logged("to stop: ''"));
 }
 
 TEST_F(ServiceTest, CopiesTreesAndReportsWhatItCannotCopy) {
