@@ -35,6 +35,6 @@ if [[ ${BASH_SOURCE[0]} == "$0" ]]; then
   started=()
   trap 'kill "${started[@]}" 2>/dev/null || true' EXIT
   DISPLAY=
-  start_display 800 600
+  start_display 800 600 || exit 1
   "$@"
 fi

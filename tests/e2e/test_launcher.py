@@ -121,9 +121,7 @@ class Window(Case):
             samples += alive(old)
         self.assertGreaterEqual(samples, 2)
         _, errors = process.communicate(timeout=60)
-        self.assertEqual(process.returncode, 0, errors)
-        self.assertNotIn("QThread", errors)
-        self.assertFalse(alive(old), "a client that ignores the request is killed")
+        self.assertEqual((process.returncode, alive(old), "QThread" in errors), (0, False, False), errors)
         self.assert_installed(complete)
         self.wait_for_client()
 
