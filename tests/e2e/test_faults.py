@@ -280,8 +280,7 @@ class Client(Faults):
                 if kind in ("zombie", "gone", "foreign"):
                     self.end_clients()
                     process = subprocess.Popen(["sleep", "60" if kind == "foreign" else "0"])
-                    self.addCleanup(process.wait)
-                    self.addCleanup(process.kill)
+                    self.addCleanup(lambda process=process: (process.kill(), process.wait()))
                     pid = process.pid
                     wait_for(lambda: kind == "foreign" or not alive(pid), "its end")
                     if kind == "gone":
@@ -291,7 +290,8 @@ class Client(Faults):
                 self.put_package(NEW)
                 started = time.monotonic()
                 self.run_launcher(user=USER if kind == "foreign" else None)
-                self.assertTrue(0 <= time.monotonic() - started - seconds < 3, time.monotonic() - started)
+                took, slack = time.monotonic() - started, 2 + os.getloadavg()[0]
+                self.assertTrue(seconds <= took < seconds + slack, took)
                 self.assertEqual(alive(pid), kind == "foreign" and ROOT)
                 if alive(pid):
                     self.assert_logged("[ERROR] mac/mac-service(%d): kill: Operation not permitted (1)\n")
@@ -319,7 +319,7 @@ class Many(Faults):
         moment = time.monotonic()
         processes = [self.start() for _ in range(20)]
         wait_for(lambda: [process.poll() for process in processes].count(None) == 1, "nineteen leave")
-        self.assertLess(time.monotonic() - moment, max(1, os.getloadavg()[0]))
+        self.assertLess(time.monotonic() - moment, 1 + os.getloadavg()[0])
         for process, number in itertools.product(processes, (signal.SIGTERM, signal.SIGHUP)):
             process.send_signal(number)
         wait_for(lambda: "extractor(" in self.log(), "the extraction")
