@@ -36,8 +36,7 @@ constexpr int kDiscFull = -2;
 constexpr int kEntryInfo = 1;  // bit of DIR_HANDLE::flags
 constexpr unsigned short kModeByUmask = 0xFFFF;
 constexpr int kCopyBlock = 32 * 1024 * 1024;
-// For a larger write the system looks for large pages, which are the first that a virtual machine's host takes away: a
-// copy of 1 GiB then took up to twice the processor's time.
+// Written in one go, blocks took up to twice the processor's time on a virtual machine with little memory at hand.
 constexpr size_t kWriteSlice = 128 * 1024;
 constexpr size_t kTemplateSize = 4096;
 constexpr size_t kLinkTextSize = 1024;

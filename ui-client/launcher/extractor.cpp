@@ -86,8 +86,7 @@ class LinkGuard {
 
   /// A link was written, symbolic or (to one, perhaps) hard: what was looked up before may lie elsewhere now.
   void LinkWritten(bool symbolic) {
-    // Only now is the destination there for certain.
-    // A link in its own place leaves no inside at all.
+    // Only now is the destination there for certain. Where a link has taken its place there is no inside at all.
     if (symbolic && root_.empty() && !IsLink(folder_)) root_ = RealPath(folder_);
     hasLinks_ = hasLinks_ || symbolic;
     inside_.clear();

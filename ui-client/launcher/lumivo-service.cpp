@@ -17,6 +17,7 @@ namespace {
 const ustring kComponent = "service_debug";
 
 constexpr int kMaxBackups = 10;
+constexpr char kVersionFile[] = "/Contents/Resources/INFO";  // in either bundle
 
 ustring FromQt(const QString& text) {
   return ustring(text.toUtf8().constData());
@@ -51,8 +52,8 @@ void ReadVersion(const ustring& path, VerInfo* version) {
 int CompleteBuild(const ustring& bundle) {
   if (!IsFileExist(bundle + "/Contents/MacOS/lumivo-drive-ui", false)) return 0;
   VerInfo version;
-  ReadVersion(bundle + "/Contents/Resources/INFO", &version);
-  return atoi(version.build_version.c_str());
+  ReadVersion(bundle + kVersionFile, &version);
+  return BuildNumber(version);
 }
 
 // Removes a bundle. It falls apart in one step first: a removal that is cut short must not leave what looks complete.
@@ -65,6 +66,10 @@ void Discard(const ustring& bundle) {
 }
 
 }  // namespace
+
+int BuildNumber(const VerInfo& version) {
+  return atoi(version.build_version.c_str());
+}
 
 PackageInfo::PackageInfo() {
   const ustring folder = FromQt(QCoreApplication::applicationDirPath());
@@ -95,7 +100,7 @@ int Service::ExtractPackage() {
 }
 
 void Service::LoadSourceVersion() {
-  const ustring path = GetUserLumivoAppInstallPath() + "/Contents/Resources" + "/" + "INFO";
+  const ustring path = GetUserLumivoAppInstallPath() + kVersionFile;
   if (!IsFileExist(path, false)) {
     LOG_INFO(kComponent, "source does not exist\n");
     return;
@@ -107,7 +112,7 @@ void Service::LoadSourceVersion() {
 }
 
 void Service::LoadTargetVersion() {
-  ReadVersion(GetRootLumivoResourceInstallPath() + "/" + "INFO", &targetVersion);
+  ReadVersion(GetRootLumivoInstallPath() + kVersionFile, &targetVersion);
   LOG_INFO(kComponent, "target_version = (%s, %s, %s, %s)\n", targetVersion.major_version.c_str(),
            targetVersion.minor_version.c_str(), targetVersion.build_version.c_str(),
            targetVersion.icon_overlay_version.c_str());
@@ -135,9 +140,9 @@ bool Service::MoveAside(ustring* backup, int* index) {
 
 // After an interrupted run the bundle that was moved aside is a part only, and the last complete one another backup.
 ustring Service::BestBackup(const ustring& made) const {
+  if (!made.empty() && CompleteBuild(made) > 0) return made;
   ustring best = made;
-  int build = made.empty() ? 0 : CompleteBuild(made);
-  if (build > 0) return made;
+  int build = 0;
   for (int i = 0; i < kMaxBackups; ++i) {
     const ustring path = GetAppBackupDir(userAppPath, i);
     const int found = CompleteBuild(path);

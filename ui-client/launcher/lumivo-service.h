@@ -10,6 +10,9 @@ struct VerInfo {
   ustring icon_overlay_version;  ///< told in the log only
 };
 
+/// The build number that decides; 0 where the text is empty or begins with no number.
+int BuildNumber(const VerInfo& version);
+
 /// The places of a package that lies beside the launcher's executable, UTF-8. Nothing is looked up on disk. Needs the
 /// application object.
 struct PackageInfo {

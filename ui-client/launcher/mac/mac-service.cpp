@@ -23,10 +23,6 @@ constexpr int kDefaultTimeout = 10000;
 constexpr int kStopProbes = 5;
 constexpr unsigned kProbeSeconds = 1;
 
-int BuildNumber(const VerInfo& version) {
-  return version.build_version.empty() ? 0 : atoi(version.build_version.c_str());
-}
-
 // The one process that `text` names; 0 when it names none, a group of processes, or ourselves. A larger number must not
 // be cut down to a pid_t: it could come out as -1, which is every process.
 pid_t ClientPid(const ustring& text) {

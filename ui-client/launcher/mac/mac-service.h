@@ -29,7 +29,7 @@ class MacService : public Service {
   /// the client's executable is missing. Nothing is ever downgraded.
   bool IsNeedUpgrade() override;
 
-  /// LoadSourceVersion() and LoadTargetVersion() under the names that older callers know.
+  /// The same as LoadSourceVersion() and LoadTargetVersion().
   void LoadSourceVerInfo();
   void LoadTargetVerInfo();
 
