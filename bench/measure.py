@@ -218,7 +218,7 @@ class Bench:
                        text=f"{(peaks[1] - peaks[0]) * 1024 / (series[-1] - series[0]):.1f} bytes")
 
     def start(self):
-        with self.media() as media, tempfile.TemporaryDirectory() as home, self.display() as display:
+        with self.media() as media, tempfile.TemporaryDirectory() as home:
             scratch = media["disc"]
             subprocess.run(["cmake", "--install", self.build, "--prefix", scratch], check=True,
                            stdout=subprocess.DEVNULL)
@@ -235,7 +235,7 @@ class Bench:
                 commands[kind] = [peer, kind, contents / "Frameworks/plugins", client]
             os.mkfifo(pipe)
             env = environment(HOME=home, TMPDIR=home, XDG_RUNTIME_DIR=home, LUMIVO_BENCH_PIPE=pipe)
-            ways = {"offscreen": {**env, "QT_QPA_PLATFORM": "offscreen"}, "X": {**env, "DISPLAY": display}}
+            ways = {"offscreen": {**env, "QT_QPA_PLATFORM": "offscreen"}, "X": {**env, "DISPLAY": os.environ["DISPLAY"]}}
             reader = os.open(pipe, os.O_RDWR)
             for way, variables in ways.items():
                 self.start_on(way, commands, variables, reader)
@@ -285,19 +285,6 @@ class Bench:
         self.table.row("instructions of a start, offscreen", "same calls", value=million["ours"] / million["same"])
         self.report("instructions of a start, offscreen, millions", {name: n // 10**6 for name, n in million.items()})
         self.report("heap of a start, offscreen, KiB", {name: size >> 10 for name, size in heap.items()})
-
-    @contextlib.contextmanager
-    def display(self):
-        reader, writer = os.pipe()
-        server = subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-screen", "0", "800x600x24", "-noreset",
-                                   "-nolisten", "tcp"], pass_fds=[writer], stderr=subprocess.DEVNULL)
-        os.close(writer)
-        try:
-            with os.fdopen(reader) as number:
-                yield ":" + number.readline().strip()
-        finally:
-            server.terminate()
-            server.wait()
 
     def parts(self):
         with self.media() as media:
