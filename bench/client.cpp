@@ -1,4 +1,5 @@
-// The client of the start-up benchmark: tells the pipe LUMIVO_BENCH_PIPE when its main() was reached, and ends.
+// The client of the start-up benchmark: tells the pipe LUMIVO_BENCH_PIPE when its main() was
+// reached, and ends.
 
 #include <fcntl.h>
 #include <time.h>

@@ -1,5 +1,5 @@
-// What happens inside a process, by pairs: "NAME/ours" is the launcher's code, "NAME/theirs" what people would use
-// instead. Log files go below the folder LUMIVO_BENCH_FOLDER.
+// What happens inside a process, by pairs: "NAME/ours" is the launcher's code, "NAME/theirs" what
+// people would use instead. Log files go below the folder LUMIVO_BENCH_FOLDER.
 
 #include <benchmark/benchmark.h>
 #include <spdlog/sinks/rotating_file_sink.h>
@@ -20,8 +20,10 @@ constexpr size_t kRotationSize = 1048576;
 
 constexpr char kFolder[] = "/home/somebody/.Lumivo/Lumivo.app/Contents/Resources/help/en";
 constexpr char kName[] = "getting-started.html";
-constexpr char kPath[] = "/home/somebody/.Lumivo/Lumivo.app/Contents/Resources/help/en/getting-started.html";
-constexpr char kOtherPath[] = "/home/somebody/.Lumivo/Lumivo.app/Contents/Resources/help/en/getting-stuck.html";
+constexpr char kPath[] =
+    "/home/somebody/.Lumivo/Lumivo.app/Contents/Resources/help/en/getting-started.html";
+constexpr char kOtherPath[] =
+    "/home/somebody/.Lumivo/Lumivo.app/Contents/Resources/help/en/getting-stuck.html";
 
 std::string LogPath(const char* name) {
   const char* folder = getenv("LUMIVO_BENCH_FOLDER");
@@ -35,15 +37,16 @@ void LogLine(benchmark::State& state) {
     return;
   }
   for (auto _ : state) {
-    Logger::LogMsg(Logger::LEVEL_ERROR, component, "[ERROR] file-op(%d): %s: '%s'\n", 416, "fsync", kPath);
+    Logger::LogMsg(Logger::LEVEL_ERROR, component, "[ERROR] file-op(%d): %s: '%s'\n", 416, "fsync",
+                   kPath);
   }
   Logger::Destroy();
 }
 BENCHMARK(LogLine)->Name("one log line/ours");
 
 void SpdlogLine(benchmark::State& state) {
-  spdlog::logger logger(
-      "", std::make_shared<spdlog::sinks::rotating_file_sink_mt>(LogPath("peer.log"), kRotationSize, kRotations));
+  spdlog::logger logger("", std::make_shared<spdlog::sinks::rotating_file_sink_mt>(
+                                LogPath("peer.log"), kRotationSize, kRotations));
   logger.set_pattern("%b %d %H:%M:%S %v");
   logger.flush_on(spdlog::level::trace);
   for (auto _ : state) {
@@ -94,10 +97,12 @@ void Compare(benchmark::State& state) {
 template <class String>
 void Order(benchmark::State& state) {
   std::vector<String> paths;
-  for (unsigned i = 0; i < 1000; ++i) paths.push_back(String(kFolder) + "/" + std::to_string(i * 7919 % 1000).c_str());
+  for (unsigned i = 0; i < 1000; ++i)
+    paths.push_back(String(kFolder) + "/" + std::to_string(i * 7919 % 1000).c_str());
   std::vector<const String*> order(paths.size());
   for (auto _ : state) {
-    std::transform(paths.begin(), paths.end(), order.begin(), [](const String& path) { return &path; });
+    std::transform(paths.begin(), paths.end(), order.begin(),
+                   [](const String& path) { return &path; });
     std::sort(order.begin(), order.end(), [](const String* a, const String* b) { return *a < *b; });
     benchmark::DoNotOptimize(order.data());
   }

@@ -1,5 +1,6 @@
 // bench-start KIND PLUGINS CLIENT: what a start of the launcher is compared with. KIND is
-//   same        the launcher's own toolkit calls in their order: application, one catalog, worker thread, a dialog that
+//   same        the launcher's own toolkit calls in their order: application, one catalog, worker
+//   thread, a dialog that
 //               stays hidden, detached start of CLIENT by the worker, end of the event loop
 //   bare        an application that starts CLIENT
 //   translator  an application with a translator, which starts CLIENT too
@@ -28,11 +29,14 @@ int StartClient(const QString& client) {
 
 // The dialog as the launcher makes it; it is never shown.
 std::unique_ptr<QProgressDialog> MakeDialog() {
-  const auto text = [](const char* source) { return QCoreApplication::translate("global", source); };
+  const auto text = [](const char* source) {
+    return QCoreApplication::translate("global", source);
+  };
   auto dialog = std::make_unique<QProgressDialog>(nullptr, Qt::WindowFlags());
   const QFont font(QStringLiteral("Arial"), -1, -1, false);
   dialog->setWindowTitle(text("Lumivo Drive"));
-  dialog->setWindowIcon(QIcon(QCoreApplication::applicationDirPath() + QStringLiteral("/icon.png")));
+  dialog->setWindowIcon(
+      QIcon(QCoreApplication::applicationDirPath() + QStringLiteral("/icon.png")));
   dialog->setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
   dialog->setValue(0);
   dialog->setRange(0, 100);
@@ -41,8 +45,8 @@ std::unique_ptr<QProgressDialog> MakeDialog() {
   dialog->setFixedWidth(400);
   dialog->setModal(true);
   dialog->setWindowModality(Qt::WindowModal);
-  dialog->setStyleSheet(
-      QStringLiteral(" QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } "));
+  dialog->setStyleSheet(QStringLiteral(
+      " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } "));
   dialog->setCancelButton(nullptr);
   dialog->setAutoReset(false);
   return dialog;

@@ -1,6 +1,6 @@
-// bench-step count ARCHIVE | extract ARCHIVE FOLDER | copy SOURCE DESTINATION: does one step of an upgrade by the
-// launcher's own code, and prints what it cost: seconds of wall clock, seconds of processor, KiB of memory at its peak
-// above what was there before, result.
+// bench-step count ARCHIVE | extract ARCHIVE FOLDER | copy SOURCE DESTINATION: does one step of an
+// upgrade by the launcher's own code, and prints what it cost: seconds of wall clock, seconds of
+// processor, KiB of memory at its peak above what was there before, result.
 
 #include <sys/resource.h>
 #include <time.h>

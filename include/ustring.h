@@ -8,35 +8,41 @@
 
 /// The text of everything that is not user interface: paths, file names, keys, values, versions.
 ///
-/// A `ustring` holds UTF-8, the form that system calls take, and hands out the same text in UTF-16 when it is asked
-/// for. Its shape is that of `std::string`, and every position and length counts bytes of the UTF-8 form. Bytes that
-/// are not well-formed UTF-8 are kept as they are; they matter only where the UTF-16 form is needed.
+/// A `ustring` holds UTF-8, the form that system calls take, and hands out the same text in UTF-16
+/// when it is asked for. Its shape is that of `std::string`, and every position and length counts
+/// bytes of the UTF-8 form. Bytes that are not well-formed UTF-8 are kept as they are; they matter
+/// only where the UTF-16 form is needed.
 ///
-/// The UTF-8 form is the text. The UTF-16 form is a cache of it, filled on demand and emptied by every change of the
-/// UTF-8 side. A change through the UTF-16 side (16-bit arguments, normalisation) re-encodes the whole text at once and
-/// leaves both forms current; when its units are not well-formed UTF-16 the whole string becomes empty.
+/// The UTF-8 form is the text. The UTF-16 form is a cache of it, filled on demand and emptied by
+/// every change of the UTF-8 side. A change through the UTF-16 side (16-bit arguments,
+/// normalisation) re-encodes the whole text at once and leaves both forms current; when its units
+/// are not well-formed UTF-16 the whole string becomes empty.
 ///
-/// Texts are C strings. A byte 0 gets inside only as a `char`: appended, by `replace` or through `operator[]`;
-/// `length()` counts it, while copies, comparisons, conversions and forward searches end there.
+/// Texts are C strings. A byte 0 gets inside only as a `char`: appended, by `replace` or through
+/// `operator[]`; `length()` counts it, while copies, comparisons, conversions and forward searches
+/// end there.
 ///
-/// Errors: `std::bad_alloc` (the object then keeps its buffers and stays usable), `std::out_of_range` for a bad
-/// position. A failed conversion never throws: it writes one line "Warning: …" to standard error and leaves what is
-/// said below. Pointers passed in are never null. The string's own `c_str()` and `c_str_utf16()` may be passed back to
-/// it; a pointer to somewhere behind their beginning may not.
+/// Errors: `std::bad_alloc` (the object then keeps its buffers and stays usable),
+/// `std::out_of_range` for a bad position. A failed conversion never throws: it writes one line
+/// "Warning: …" to standard error and leaves what is said below. Pointers passed in are never null.
+/// The string's own `c_str()` and `c_str_utf16()` may be passed back to it; a pointer to somewhere
+/// behind their beginning may not.
 ///
-/// Threads: one at a time for each object. That holds for const objects too, because `c_str_utf16()` and `normalize()`
-/// fill the cache.
+/// Threads: one at a time for each object. That holds for const objects too, because
+/// `c_str_utf16()` and `normalize()` fill the cache.
 class ustring {
  public:
   using size_type = std::size_t;
 
-  /// "Not found" as a result, "to the end" as a count, "from the end" as the start of a backward search.
+  /// "Not found" as a result, "to the end" as a count, "from the end" as the start of a backward
+  /// search.
   static constexpr size_type npos = static_cast<size_type>(-1);
 
   /// Canonical composition and canonical decomposition.
   enum normalization_form { NFC = 0, NFD = 1 };
 
-  // Construction. Converting from the other kinds of text is implicit on purpose: a literal is a fine `ustring`.
+  // Construction. Converting from the other kinds of text is implicit on purpose: a literal is a
+  // fine `ustring`.
 
   ustring();
   /// Copies the UTF-8 form only.
@@ -56,8 +62,9 @@ class ustring {
   const char* c_str() const { return data; }
   const char* c_str_utf8() const { return data; }
 
-  /// The UTF-16 text, 0-terminated. Valid until the next change of the string, and until the non-const `operator[]` is
-  /// used, even for reading. An ill-formed text yields an empty UTF-16 text and a warning, each time anew.
+  /// The UTF-16 text, 0-terminated. Valid until the next change of the string, and until the
+  /// non-const `operator[]` is used, even for reading. An ill-formed text yields an empty UTF-16
+  /// text and a warning, each time anew.
   const unsigned short* c_str_utf16() const {
     if (wdata_len == 0) {
       convert_from_data();
@@ -78,12 +85,13 @@ class ustring {
     return data[i];
   }
 
-  // Adding text. A count `n` is an upper limit in the units of the argument; the text's own end comes first.
+  // Adding text. A count `n` is an upper limit in the units of the argument; the text's own end
+  // comes first.
 
   ustring& append(const char* s) { return append(s, npos); }
   ustring& append(const char* s, size_type n);
-  /// The forms with 16-bit units go through the UTF-16 side: text that is not well-formed UTF-8 is lost with a warning
-  /// before the units are added.
+  /// The forms with 16-bit units go through the UTF-16 side: text that is not well-formed UTF-8 is
+  /// lost with a warning before the units are added.
   ustring& append(const unsigned short* w) { return append(w, npos); }
   ustring& append(const unsigned short* w, size_type n);
   /// `n` copies of the byte or unit. A unit 0 adds nothing.
@@ -94,9 +102,9 @@ class ustring {
   /// Throws `std::out_of_range` "basic_string::substr" when `pos` > `s.size()`.
   ustring& append(const std::string& s, size_type pos = 0, size_type n = npos);
 
-  // Replacing the text: empties the string, then appends, so that it is left empty when the append throws. The string's
-  // own buffers are an exception: the text is cut in place, or stays as it is. With the string itself as the argument a
-  // bad position changes nothing.
+  // Replacing the text: empties the string, then appends, so that it is left empty when the append
+  // throws. The string's own buffers are an exception: the text is cut in place, or stays as it is.
+  // With the string itself as the argument a bad position changes nothing.
 
   ustring& assign(const char* s) { return assign(s, npos); }
   ustring& assign(const char* s, size_type n);
@@ -140,21 +148,23 @@ class ustring {
   /// Turns every byte `from` into `to`.
   void replace(char from, char to);
 
-  // Parts and searches. A set is a set of bytes: each byte of a multi-byte character counts by itself. A `char` is a
-  // text of one byte; the byte 0 is the empty text.
+  // Parts and searches. A set is a set of bytes: each byte of a multi-byte character counts by
+  // itself. A `char` is a text of one byte; the byte 0 is the empty text.
 
-  /// The bytes from `pos` on, `n` at most. Throws `std::out_of_range` "substr" when `pos` > `length()`.
+  /// The bytes from `pos` on, `n` at most. Throws `std::out_of_range` "substr" when `pos` >
+  /// `length()`.
   ustring substr(size_type pos = 0, size_type n = npos) const;
 
-  /// Forward: the first position from `pos` on. `npos` whenever `pos` >= `length()`, even for an empty pattern; else an
-  /// empty pattern is found at `pos`, an empty set finds nothing, and the complement of an empty set is found at `pos`.
+  /// Forward: the first position from `pos` on. `npos` whenever `pos` >= `length()`, even for an
+  /// empty pattern; else an empty pattern is found at `pos`, an empty set finds nothing, and the
+  /// complement of an empty set is found at `pos`.
   size_type find(const char* x, size_type pos = 0) const;
   size_type find_first_of(const char* x, size_type pos = 0) const;
   size_type find_first_not_of(const char* x, size_type pos = 0) const;
 
-  /// Backward: the last position that is not behind `pos`; a match may extend beyond `pos`. The search starts at the
-  /// last byte when `pos` >= `length()`. Nothing is found in an empty string; else an empty pattern and the complement
-  /// of an empty set are found at the start of the search.
+  /// Backward: the last position that is not behind `pos`; a match may extend beyond `pos`. The
+  /// search starts at the last byte when `pos` >= `length()`. Nothing is found in an empty string;
+  /// else an empty pattern and the complement of an empty set are found at the start of the search.
   size_type rfind(const char* x, size_type pos = npos) const;
   size_type find_last_of(const char* x, size_type pos = npos) const;
   size_type find_last_not_of(const char* x, size_type pos = npos) const;
@@ -162,28 +172,50 @@ class ustring {
   size_type find(const std::string& x, size_type pos = 0) const { return find(x.c_str(), pos); }
   size_type find(const ustring& x, size_type pos = 0) const { return find(x.data, pos); }
   size_type find(char x, size_type pos = 0) const { return find(byte_text(x).text, pos); }
-  size_type rfind(const std::string& x, size_type pos = npos) const { return rfind(x.c_str(), pos); }
+  size_type rfind(const std::string& x, size_type pos = npos) const {
+    return rfind(x.c_str(), pos);
+  }
   size_type rfind(const ustring& x, size_type pos = npos) const { return rfind(x.data, pos); }
   size_type rfind(char x, size_type pos = npos) const { return rfind(byte_text(x).text, pos); }
-  size_type find_first_of(const std::string& x, size_type pos = 0) const { return find_first_of(x.c_str(), pos); }
-  size_type find_first_of(const ustring& x, size_type pos = 0) const { return find_first_of(x.data, pos); }
-  size_type find_first_of(char x, size_type pos = 0) const { return find_first_of(byte_text(x).text, pos); }
+  size_type find_first_of(const std::string& x, size_type pos = 0) const {
+    return find_first_of(x.c_str(), pos);
+  }
+  size_type find_first_of(const ustring& x, size_type pos = 0) const {
+    return find_first_of(x.data, pos);
+  }
+  size_type find_first_of(char x, size_type pos = 0) const {
+    return find_first_of(byte_text(x).text, pos);
+  }
   size_type find_first_not_of(const std::string& x, size_type pos = 0) const {
     return find_first_not_of(x.c_str(), pos);
   }
-  size_type find_first_not_of(const ustring& x, size_type pos = 0) const { return find_first_not_of(x.data, pos); }
-  size_type find_first_not_of(char x, size_type pos = 0) const { return find_first_not_of(byte_text(x).text, pos); }
-  size_type find_last_of(const std::string& x, size_type pos = npos) const { return find_last_of(x.c_str(), pos); }
-  size_type find_last_of(const ustring& x, size_type pos = npos) const { return find_last_of(x.data, pos); }
-  size_type find_last_of(char x, size_type pos = npos) const { return find_last_of(byte_text(x).text, pos); }
+  size_type find_first_not_of(const ustring& x, size_type pos = 0) const {
+    return find_first_not_of(x.data, pos);
+  }
+  size_type find_first_not_of(char x, size_type pos = 0) const {
+    return find_first_not_of(byte_text(x).text, pos);
+  }
+  size_type find_last_of(const std::string& x, size_type pos = npos) const {
+    return find_last_of(x.c_str(), pos);
+  }
+  size_type find_last_of(const ustring& x, size_type pos = npos) const {
+    return find_last_of(x.data, pos);
+  }
+  size_type find_last_of(char x, size_type pos = npos) const {
+    return find_last_of(byte_text(x).text, pos);
+  }
   size_type find_last_not_of(const std::string& x, size_type pos = npos) const {
     return find_last_not_of(x.c_str(), pos);
   }
-  size_type find_last_not_of(const ustring& x, size_type pos = npos) const { return find_last_not_of(x.data, pos); }
-  size_type find_last_not_of(char x, size_type pos = npos) const { return find_last_not_of(byte_text(x).text, pos); }
+  size_type find_last_not_of(const ustring& x, size_type pos = npos) const {
+    return find_last_not_of(x.data, pos);
+  }
+  size_type find_last_not_of(char x, size_type pos = npos) const {
+    return find_last_not_of(byte_text(x).text, pos);
+  }
 
-  // Comparison: the difference of the first two bytes that differ, read as unsigned; 0 when there are none. That orders
-  // texts by code point, in any locale.
+  // Comparison: the difference of the first two bytes that differ, read as unsigned; 0 when there
+  // are none. That orders texts by code point, in any locale.
 
   int compare(const ustring& other) const { return compare(*this, other, false); }
   /// Looks at the first `n` bytes at most.
@@ -196,8 +228,8 @@ class ustring {
   /// Whether the text is well-formed UTF-8. Says nothing to standard error.
   static bool is_valid(const ustring& s);
 
-  /// The text in form `f`, with both its forms current; the cache of the source is filled on the way. Ill-formed text
-  /// gives an empty result and warnings.
+  /// The text in form `f`, with both its forms current; the cache of the source is filled on the
+  /// way. Ill-formed text gives an empty result and warnings.
   ustring normalize(normalization_form f) const { return normalize(*this, f); }
   static ustring normalize(const ustring& s, normalization_form f);
 
@@ -209,8 +241,8 @@ class ustring {
 
   void init();
 
-  // Buffers are sized exactly: they grow to what is needed and shrink to it when it is below half of what there is.
-  // `need` includes the terminator.
+  // Buffers are sized exactly: they grow to what is needed and shrink to it when it is below half
+  // of what there is. `need` includes the terminator.
   void realloc_data(size_type need);
   void realloc_wdata(size_type need) const;
 
@@ -225,7 +257,8 @@ class ustring {
 
   // Fills the UTF-16 form unless it is current.
   void update_wdata() const;
-  // Each rewrites one form from the other: 0, or -1 after a warning, with the target (and for the second both) empty.
+  // Each rewrites one form from the other: 0, or -1 after a warning, with the target (and for the
+  // second both) empty.
   int convert_from_data() const;
   int convert_from_wdata();
   // Ends the UTF-16 text at `len` units and makes the UTF-8 text follow.

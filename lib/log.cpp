@@ -89,7 +89,8 @@ bool IsBlank(char c) {
 }
 
 bool IsKeyChar(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' || c == '-' || c == '.';
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
+         c == '-' || c == '.';
 }
 
 bool EndsValue(char c, char terminator) {
@@ -135,7 +136,8 @@ Line ParseLine(const char* at, std::string* key, std::string* value) {
   return *at == '\0' || *at == '#' ? Line::kEntry : Line::kMalformed;
 }
 
-// Without O_NONBLOCK a pipe of this name would hold the process up for as long as nobody writes into it.
+// Without O_NONBLOCK a pipe of this name would hold the process up for as long as nobody writes
+// into it.
 File OpenRegularFile(const ustring& path) {
   File file(OpenStream(path, O_RDONLY | O_NONBLOCK, "r"));
   struct stat info = {};
@@ -215,7 +217,8 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
   if (log_lock == nullptr || InitializeSharedData() != 0) {
     return;
   }
-  // Only under the lock: a rotation has no stream for a moment, and a line that comes then must wait, not get lost.
+  // Only under the lock: a rotation has no stream for a moment, and a line that comes then must
+  // wait, not get lost.
   if (log_type != TYPE_SYSLOG && log_fp == nullptr) {
     return;
   }
@@ -228,7 +231,8 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
 int Logger::Rotate() {
   char from[kRotatedNameSize];
   char to[kRotatedNameSize];
-  // Cut names would all be the same, and could be that of the log file itself. No index has more digits than the last.
+  // Cut names would all be the same, and could be that of the log file itself. No index has more
+  // digits than the last.
   if (log_path.empty() || !FormRotatedName(to, log_path, rotate_cnt - 1)) {
     return -1;
   }

@@ -41,7 +41,8 @@ ustring TmpNameGen::getTmpName() {
   rc4_randomize(m_state, m_output, sizeof m_output);
   for (size_t group = 0; group < 2; ++group) {
     const unsigned char* const bytes = m_output + group * 3;
-    const unsigned bits = static_cast<unsigned>(bytes[0]) << 16 | static_cast<unsigned>(bytes[1]) << 8 | bytes[2];
+    const unsigned bits =
+        static_cast<unsigned>(bytes[0]) << 16 | static_cast<unsigned>(bytes[1]) << 8 | bytes[2];
     for (size_t i = 0; i < 4; ++i) {
       name[group * 4 + i] = map[bits >> (18 - 6 * i) & 63];
     }

@@ -7,21 +7,29 @@
 
 namespace {
 
-const char* const grgszLanguages[] = {"enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb",  "rus",
-                                      "dan", "nor", "sve", "nld", "plk", "hun", "ptg", "trk", "csy", nullptr};
+const char* const grgszLanguages[] = {"enu", "cht", "chs", "jpn", "deu", "krn", "fra",
+                                      "ita", "esn", "ptb", "rus", "dan", "nor", "sve",
+                                      "nld", "plk", "hun", "ptg", "trk", "csy", nullptr};
 constexpr unsigned kLanguageSlots = sizeof(grgszLanguages) / sizeof(grgszLanguages[0]);
 
 const QString qstrLanguageFallSafe = QStringLiteral("enu");
 
-// The debug messages name their places by numbers that stay put when this file changes, so that saved output of any
-// release can be compared.
+// The debug messages name their places by numbers that stay put when this file changes, so that
+// saved output of any release can be compared.
 constexpr char kUnitPath[] = "libcommon/TavLocale";
-enum DebugPlace { kLocaleRead = 64, kLocaleLookedUp = 80, kLanguageChosen = 138, kCatalogFound = 161 };
+enum DebugPlace {
+  kLocaleRead = 64,
+  kLocaleLookedUp = 80,
+  kLanguageChosen = 138,
+  kCatalogFound = 161
+};
 
 // `lineBreak` is "\n" for the two values that a person looks for first, and empty for the others.
-void Debug(DebugPlace place, const char* expression, const QString& value, const char* lineBreak = "") {
+void Debug(DebugPlace place, const char* expression, const QString& value,
+           const char* lineBreak = "") {
   QMessageLogger(nullptr, 0, nullptr, "default")
-      .debug("%s:%d %s=[%s%s] ", kUnitPath, int{place}, expression, value.toLocal8Bit().constData(), lineBreak);
+      .debug("%s:%d %s=[%s%s] ", kUnitPath, int{place}, expression, value.toLocal8Bit().constData(),
+             lineBreak);
 }
 
 QString CatalogName(const QString& code) {
@@ -82,7 +90,8 @@ bool TavLocale::isLanguageInstalled(const QString& code) {
 
 QList<QString> TavLocale::getSupportedLanguages() {
   QList<QString> languages;
-  for (const char* const* code = grgszLanguages; *code != nullptr; ++code) languages << QLatin1String(*code);
+  for (const char* const* code = grgszLanguages; *code != nullptr; ++code)
+    languages << QLatin1String(*code);
   return languages;
 }
 

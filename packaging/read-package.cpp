@@ -1,5 +1,6 @@
-// lumivo-read-package ARCHIVE FOLDER: extracts a package into a folder exactly as the launcher does, so that whoever
-// makes one can look at what users will get. Exit status 0, 1 (failed; the log on standard error says why), 2 (usage).
+// lumivo-read-package ARCHIVE FOLDER: extracts a package into a folder exactly as the launcher
+// does, so that whoever makes one can look at what users will get. Exit status 0, 1 (failed; the
+// log on standard error says why), 2 (usage).
 
 #include <QCoreApplication>
 #include <clocale>

@@ -16,7 +16,8 @@
 
 namespace {
 
-// The name of a socket may have no more than 103 bytes, and about half are in a temporary folder's already.
+// The name of a socket may have no more than 103 bytes, and about half are in a temporary folder's
+// already.
 constexpr int kNameDigits = 16;
 constexpr int kNameLooks = 10;
 constexpr int kNameMilliseconds = 20;
@@ -29,14 +30,16 @@ QString GuardPath() {
          QString::fromLatin1(hash.result().toHex().left(kNameDigits));
 }
 
-// Whether nothing lies at `path`, or a node of the wanted kind that belongs to this user. Links are not followed.
+// Whether nothing lies at `path`, or a node of the wanted kind that belongs to this user. Links are
+// not followed.
 bool IsFreeOrOwn(const QString& path, mode_t kind) {
   struct stat node = {};
   if (lstat(QFile::encodeName(path).constData(), &node) != 0) return errno == ENOENT;
   return (node.st_mode & S_IFMT) == kind && node.st_uid == getuid();
 }
 
-// A new socket with `path` applied to it by `use` (bind or connect): its descriptor, or -1 with errno.
+// A new socket with `path` applied to it by `use` (bind or connect): its descriptor, or -1 with
+// errno.
 int OpenSocket(const QByteArray& path, int (*use)(int, const sockaddr*, socklen_t)) {
   sockaddr_un address = {};
   address.sun_family = AF_UNIX;
@@ -59,7 +62,10 @@ int OpenSocket(const QByteArray& path, int (*use)(int, const sockaddr*, socklen_
 
 int Listen(const QByteArray& path) {
   const int fd = OpenSocket(path, bind);
-  if (fd >= 0) listen(fd, SOMAXCONN);  // nobody is ever accepted, and some systems refuse whom the queue cannot take
+  if (fd >= 0)
+    listen(
+        fd,
+        SOMAXCONN);  // nobody is ever accepted, and some systems refuse whom the queue cannot take
   return fd;
 }
 
@@ -110,8 +116,9 @@ QtSingleApplication::Lock QtSingleApplication::TakeLock() {
     }
     if (lock_->error() != QLockFile::LockFailedError) break;
 
-    // The process named in the file lives. It is the holder unless the kernel's lock is free: then the process id was
-    // given to another process. Nobody is named as long as the holder is writing, and for ever after a power cut.
+    // The process named in the file lives. It is the holder unless the kernel's lock is free: then
+    // the process id was given to another process. Nobody is named as long as the holder is
+    // writing, and for ever after a power cut.
     qint64 pid = 0;
     for (int look = 0; look < kNameLooks && !lock_->getLockInfo(&pid, nullptr, nullptr); ++look) {
       QThread::msleep(kNameMilliseconds);
@@ -127,11 +134,13 @@ bool QtSingleApplication::TakeSocket() {
   const QString name = guardPath_ + QStringLiteral(".socket");
   const QByteArray path = QFile::encodeName(name);
   socket_ = Listen(path);
-  // A socket of this user's that answers belongs to a running instance; one that does not is a crashed one's.
+  // A socket of this user's that answers belongs to a running instance; one that does not is a
+  // crashed one's.
   if (socket_ < 0 && errno == EADDRINUSE && IsFreeOrOwn(name, S_IFSOCK)) {
     if (Answers(path)) return false;
     if (unlink(path.constData()) == 0) socket_ = Listen(path);
   }
-  if (socket_ < 0) qWarning("QtSingleApplication: no guard against a second instance: %s", strerror(errno));
+  if (socket_ < 0)
+    qWarning("QtSingleApplication: no guard against a second instance: %s", strerror(errno));
   return true;
 }

@@ -1,4 +1,5 @@
-// A small client for the launcher to install, start, stop and upgrade: one window, one pid file, one process per user.
+// A small client for the launcher to install, start, stop and upgrade: one window, one pid file,
+// one process per user.
 
 #include <fcntl.h>
 #include <signal.h>
@@ -48,14 +49,16 @@ bool QuitOnSignals(QApplication* app) {
   return sigaction(SIGTERM, &action, nullptr) == 0 && sigaction(SIGINT, &action, nullptr) == 0;
 }
 
-/// The client's place in the user's home: a lock that one process at a time holds, and the pid file that names it.
+/// The client's place in the user's home: a lock that one process at a time holds, and the pid file
+/// that names it.
 class Presence {
  public:
   Presence() : folder_(QDir::homePath() + QStringLiteral("/.Lumivo")) {}
   Presence(const Presence&) = delete;
   Presence& operator=(const Presence&) = delete;
   ~Presence() {
-    // Another process may have written its own file since, for instance after the folder was replaced.
+    // Another process may have written its own file since, for instance after the folder was
+    // replaced.
     if (!content_.isEmpty() && Content() == content_) QFile::remove(PidPath());
     if (lock_ >= 0) close(lock_);
   }
@@ -68,17 +71,21 @@ class Presence {
     const QString path = folder_ + QStringLiteral("/ui.lock");
     lock_ = open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
     if (lock_ < 0)
-      return Fail(QStringLiteral("cannot open '%1': %2").arg(path, QString::fromLocal8Bit(strerror(errno))));
+      return Fail(QStringLiteral("cannot open '%1': %2")
+                      .arg(path, QString::fromLocal8Bit(strerror(errno))));
     if (flock(lock_, LOCK_EX | LOCK_NB) == 0) return Entry::kEntered;
     if (errno == EWOULDBLOCK) return Entry::kTaken;
-    return Fail(QStringLiteral("cannot lock '%1': %2").arg(path, QString::fromLocal8Bit(strerror(errno))));
+    return Fail(
+        QStringLiteral("cannot lock '%1': %2").arg(path, QString::fromLocal8Bit(strerror(errno))));
   }
 
   /// Writes the pid file, whole or not at all. Logs why it could not.
   bool Announce() {
-    const QByteArray content = "pid=" + QByteArray::number(QCoreApplication::applicationPid()) + '\n';
+    const QByteArray content =
+        "pid=" + QByteArray::number(QCoreApplication::applicationPid()) + '\n';
     QSaveFile file(PidPath());
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
+        !file.commit()) {
       Fail(QStringLiteral("cannot write '%1': %2").arg(PidPath(), file.errorString()));
       return false;
     }
@@ -103,7 +110,8 @@ class Presence {
 };
 
 QString BuildNumber() {
-  QSettings info(QCoreApplication::applicationDirPath() + QStringLiteral("/../Resources/INFO"), QSettings::IniFormat);
+  QSettings info(QCoreApplication::applicationDirPath() + QStringLiteral("/../Resources/INFO"),
+                 QSettings::IniFormat);
   info.beginGroup(QStringLiteral("Version"));
   return info.value(QStringLiteral("build_version"), QStringLiteral("unknown")).toString();
 }
@@ -113,7 +121,8 @@ QString BuildNumber() {
 int main(int argc, char* argv[]) {
   // Its own plug-ins come on top of the installed ones, so that the client starts with either.
   const QString self = QFileInfo(QFile::decodeName(argc > 0 ? argv[0] : "")).absolutePath();
-  QCoreApplication::addLibraryPath(QDir::cleanPath(self + QStringLiteral("/../Frameworks/plugins")));
+  QCoreApplication::addLibraryPath(
+      QDir::cleanPath(self + QStringLiteral("/../Frameworks/plugins")));
   QApplication app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Lumivo Drive"));
 
@@ -129,7 +138,8 @@ int main(int argc, char* argv[]) {
   }
   // Before the pid file is there: whoever reads it may send a signal at once.
   if (!QuitOnSignals(&app)) {
-    Log(QStringLiteral("cannot watch for signals: %1").arg(QString::fromLocal8Bit(strerror(errno))));
+    Log(QStringLiteral("cannot watch for signals: %1")
+            .arg(QString::fromLocal8Bit(strerror(errno))));
     return 1;
   }
   if (!presence.Announce()) return 1;
@@ -138,9 +148,11 @@ int main(int argc, char* argv[]) {
   window.setWindowTitle(QStringLiteral("Lumivo Drive, build %1").arg(BuildNumber()));
   auto* layout = new QVBoxLayout(&window);
   layout->setContentsMargins(48, 32, 48, 32);
-  layout->addWidget(new QLabel(QStringLiteral("Lumivo Drive, build %1").arg(BuildNumber())), 0, Qt::AlignCenter);
-  layout->addWidget(new QLabel(QStringLiteral("Process %1").arg(QCoreApplication::applicationPid())), 0,
+  layout->addWidget(new QLabel(QStringLiteral("Lumivo Drive, build %1").arg(BuildNumber())), 0,
                     Qt::AlignCenter);
+  layout->addWidget(
+      new QLabel(QStringLiteral("Process %1").arg(QCoreApplication::applicationPid())), 0,
+      Qt::AlignCenter);
   window.show();
   return QApplication::exec();
 }

@@ -1,5 +1,5 @@
-// Paths go to the system byte for byte as given; only existence tests and reported paths use the composed form. Every
-// errno is taken down before anything else is called.
+// Paths go to the system byte for byte as given; only existence tests and reported paths use the
+// composed form. Every errno is taken down before anything else is called.
 
 #include "file/file-op.h"
 
@@ -36,7 +36,8 @@ constexpr int kDiscFull = -2;
 constexpr int kEntryInfo = 1;  // bit of DIR_HANDLE::flags
 constexpr unsigned short kModeByUmask = 0xFFFF;
 constexpr int kCopyBlock = 32 * 1024 * 1024;
-// Written in one go, blocks took up to twice the processor's time on a virtual machine with little memory at hand.
+// Written in one go, blocks took up to twice the processor's time on a virtual machine with little
+// memory at hand.
 constexpr size_t kWriteSlice = 128 * 1024;
 constexpr size_t kTemplateSize = 4096;
 constexpr size_t kLinkTextSize = 1024;
@@ -105,10 +106,12 @@ ustring Join(const ustring& folder, const std::string& name) {
   return path;
 }
 
-// Normalises a copy: the operation fills a cache in its source, and callers may share a path between threads.
+// Normalises a copy: the operation fills a cache in its source, and callers may share a path
+// between threads.
 ustring Composed(const ustring& path) {
   const char* begin = path.c_str();
-  const bool ascii = std::all_of(begin, begin + path.length(), [](char c) { return (c & 0x80) == 0; });
+  const bool ascii =
+      std::all_of(begin, begin + path.length(), [](char c) { return (c & 0x80) == 0; });
   return ascii ? path : ustring(path).normalize(ustring::NFC);
 }
 
@@ -164,7 +167,8 @@ ustring LogResolvedPath(const ustring& resolved) {
 }
 
 void LogOpenDirFailure(const ustring& path, int error) {
-  LOG_ERROR(kComponent, "FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(), strerror(error));
+  LOG_ERROR(kComponent, "FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(),
+            strerror(error));
 }
 
 void FillInfo(const ustring& path, const struct stat& status, _FILE_INFO_tag& info) {
@@ -180,8 +184,8 @@ void FillInfo(const ustring& path, const struct stat& status, _FILE_INFO_tag& in
   info.type = TypeOfMode(status.st_mode);
 }
 
-// The names in an open folder but "." and "..", all read before the caller changes the folder: what a stream reports
-// after that differs between file systems. A failing read ends the list.
+// The names in an open folder but "." and "..", all read before the caller changes the folder: what
+// a stream reports after that differs between file systems. A failing read ends the list.
 std::vector<std::string> ReadNames(DIR_HANDLE& handle) {
   std::vector<std::string> names;
   DIR_ENTRY entry;
@@ -194,9 +198,10 @@ std::vector<std::string> ReadNames(DIR_HANDLE& handle) {
   return names;
 }
 
-// Removes a folder tree relative to descriptors of its folders, so that it neither fails on paths too long for the
-// system nor leaves the tree by a link that takes a folder's place meanwhile. Without recursion, because a tree can be
-// deeper than a thread's stack; with a limited number of open folders, because it can be deeper than their limit.
+// Removes a folder tree relative to descriptors of its folders, so that it neither fails on paths
+// too long for the system nor leaves the tree by a link that takes a folder's place meanwhile.
+// Without recursion, because a tree can be deeper than a thread's stack; with a limited number of
+// open folders, because it can be deeper than their limit.
 class TreeRemover {
  public:
   // `resolved` is what the file system calls `path`.
@@ -285,7 +290,8 @@ class TreeRemover {
     return true;
   }
 
-  // Removes the folder whose entries have gone; closed first, because some file systems keep what is open.
+  // Removes the folder whose entries have gone; closed first, because some file systems keep what
+  // is open.
   bool Leave() {
     Level done = std::move(levels_.back());
     levels_.pop_back();
@@ -306,8 +312,8 @@ class TreeRemover {
     level.dir = Open(child, "..");
     struct stat status;
     // A folder that was moved meanwhile has another parent, which is not ours to empty.
-    return level.dir != nullptr && fstat(dirfd(level.dir.get()), &status) == 0 && status.st_dev == level.dev &&
-           status.st_ino == level.ino;
+    return level.dir != nullptr && fstat(dirfd(level.dir.get()), &status) == 0 &&
+           status.st_dev == level.dev && status.st_ino == level.ino;
   }
 
   void CutPaths(const std::string& name) {
@@ -337,7 +343,8 @@ int MakeComponent(const char* prefix, bool last, bool replace, mode_t mode) {
     return 0;
   }
   errno = EEXIST;
-  LOG_INFO(kComponent, "FSMKDirP: path: %s is existing file or symbolic link pointed to file\n", prefix);
+  LOG_INFO(kComponent, "FSMKDirP: path: %s is existing file or symbolic link pointed to file\n",
+           prefix);
   return -1;
 }
 
@@ -356,14 +363,15 @@ int OpenForCopy(const ustring& path, int flags) {
 bool IsSameRegularFile(int fd, const ustring& path) {
   struct stat a;
   struct stat b;
-  return fstat(fd, &a) == 0 && S_ISREG(a.st_mode) && stat(path.c_str(), &b) == 0 && a.st_dev == b.st_dev &&
-         a.st_ino == b.st_ino;
+  return fstat(fd, &a) == 0 && S_ISREG(a.st_mode) && stat(path.c_str(), &b) == 0 &&
+         a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
 int WriteAll(int fd, const char* data, size_t size) {
   while (size > 0) {
     errno = 0;  // so that a write of nothing reports nothing that came before it
-    const ssize_t written = RetryInterrupted([&] { return write(fd, data, std::min(size, kWriteSlice)); });
+    const ssize_t written =
+        RetryInterrupted([&] { return write(fd, data, std::min(size, kWriteSlice)); });
     if (written <= 0) {
       const int error = errno;
       LOG_ERROR(kComponent, "CopyFile: write: %s (%d)\n", strerror(error), error);
@@ -375,8 +383,10 @@ int WriteAll(int fd, const char* data, size_t size) {
   return 0;
 }
 
-// Has the disc write while the next block is read, where the system can be asked to: the end has less to wait for then.
-void BeginWriting([[maybe_unused]] int fd, [[maybe_unused]] off_t offset, [[maybe_unused]] off_t size) {
+// Has the disc write while the next block is read, where the system can be asked to: the end has
+// less to wait for then.
+void BeginWriting([[maybe_unused]] int fd, [[maybe_unused]] off_t offset,
+                  [[maybe_unused]] off_t size) {
 #ifdef POSIX_FADV_DONTNEED
   posix_fadvise(fd, offset, size, POSIX_FADV_DONTNEED);
 #endif
@@ -407,7 +417,8 @@ int CopyBytes(int from, int to) {
   }
 }
 
-// False when written bytes may have been lost; a destination that cannot be forced anywhere, a pipe say, is no loss.
+// False when written bytes may have been lost; a destination that cannot be forced anywhere, a pipe
+// say, is no loss.
 bool ForceToDisc(int fd) {
   if (RetryInterrupted([&] { return fsync(fd); }) == 0 || errno == EINVAL || errno == ENOTSUP) {
     return true;
@@ -510,11 +521,13 @@ int FSMKDir(const ustring& path, bool parents) {
     if (info.type == FILE_TYPE_FOLDER) {
       return 0;
     }
-    LOG_ERROR(kComponent, "FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n", path.c_str(),
-              info.type);
+    LOG_ERROR(kComponent,
+              "FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
+              path.c_str(), info.type);
     return -1;
   }
-  const int result = parents ? FSMKDirP(path, nullptr, false, kModeByUmask) : mkdir(path.c_str(), 0777);
+  const int result =
+      parents ? FSMKDirP(path, nullptr, false, kModeByUmask) : mkdir(path.c_str(), 0777);
   return result == 0 ? 0 : -2;
 }
 
@@ -556,12 +569,13 @@ int FSMKDirP(const ustring& path, char** failedAt, bool replace, unsigned short 
 
 int FSMKDirFromRoot(const ustring& root, const ustring& target) {
   if (root.length() > target.length()) {
-    LOG_ERROR(kComponent, "Giving a root '%s' whose length is larger then target's '%s'.\n", root.c_str(),
-              target.c_str());
+    LOG_ERROR(kComponent, "Giving a root '%s' whose length is larger then target's '%s'.\n",
+              root.c_str(), target.c_str());
     return -1;
   }
   if (!FSIsParentFolder(root, target)) {
-    LOG_ERROR(kComponent, "root '%s' is not a parent folder of target '%s'\n", root.c_str(), target.c_str());
+    LOG_ERROR(kComponent, "root '%s' is not a parent folder of target '%s'\n", root.c_str(),
+              target.c_str());
     return -1;
   }
   const ustring rest = target.substr(root.length());
@@ -655,8 +669,8 @@ int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle) {
 }
 
 int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
-  // readdir_r is deprecated for good reasons, and readdir is as safe here: threads interfere in one stream only, and a
-  // handle belongs to one thread.
+  // readdir_r is deprecated for good reasons, and readdir is as safe here: threads interfere in one
+  // stream only, and a handle belongs to one thread.
   errno = 0;
   const dirent* next = readdir(handle.dir);
   if (next == nullptr) {
@@ -664,7 +678,8 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     if (error == 0) {
       return 0;
     }
-    LOG_ERROR(kComponent, "FSOpenDir: Failed to read directory '%s'. %s\n", handle.path.c_str(), strerror(error));
+    LOG_ERROR(kComponent, "FSOpenDir: Failed to read directory '%s'. %s\n", handle.path.c_str(),
+              strerror(error));
     return -1;
   }
   _FILE_INFO_tag info;
@@ -746,7 +761,8 @@ bool hasFilePermission(const ustring& path, int accessMode) {
 bool isMountPoint(const ustring& path) {
   ustring type;
   if (GetFileSystemType(path, type) != 0) {
-    LOG_ERROR(kComponent, "isMountPoint: Failed to get file system info '%s'. %s\n", path.c_str(), strerror(errno));
+    LOG_ERROR(kComponent, "isMountPoint: Failed to get file system info '%s'. %s\n", path.c_str(),
+              strerror(errno));
     return false;
   }
   return type == "nfs" || type == "smbfs" || type == "afpfs";
@@ -755,8 +771,8 @@ bool isMountPoint(const ustring& path) {
 bool IsMSDOS(const ustring& path) {
   ustring type;
   if (GetFileSystemType(path, type) != 0) {
-    LOG_ERROR(kComponent, "IsSupportLargeFile: Failed to get file system info '%s'. %s\n", path.c_str(),
-              strerror(errno));
+    LOG_ERROR(kComponent, "IsSupportLargeFile: Failed to get file system info '%s'. %s\n",
+              path.c_str(), strerror(errno));
     return false;
   }
   if (type != "msdos") {
@@ -780,8 +796,10 @@ int FSGetRealPath(ustring& path) {
 int FSCreateSymbolicLink(const ustring& target, const ustring& linkPath) {
   if (symlink(target.c_str(), linkPath.c_str()) != 0) {
     const int error = errno;
-    LOG_ERROR(kComponent, "FSCreateSymbolicLink: Failed to create symbolic link '%s' -> '%s' (code: %d, msg: %s)\n",
-              target.c_str(), linkPath.c_str(), error, strerror(error));
+    LOG_ERROR(
+        kComponent,
+        "FSCreateSymbolicLink: Failed to create symbolic link '%s' -> '%s' (code: %d, msg: %s)\n",
+        target.c_str(), linkPath.c_str(), error, strerror(error));
     return -1;
   }
   return 0;
@@ -793,7 +811,8 @@ int FSReadSymbolicLink(const ustring& linkPath, ustring& out) {
   if (length < 0 || static_cast<size_t>(length) == sizeof text) {
     const int error = length < 0 ? errno : ENAMETOOLONG;
     errno = error;
-    LOG_ERROR(kComponent, "FSReadSymbolicLink: Failed to read symbolic link '%s' (code: %d, msg: %s)\n",
+    LOG_ERROR(kComponent,
+              "FSReadSymbolicLink: Failed to read symbolic link '%s' (code: %d, msg: %s)\n",
               linkPath.c_str(), error, strerror(error));
     return -1;
   }
@@ -804,7 +823,8 @@ int FSReadSymbolicLink(const ustring& linkPath, ustring& out) {
 int FSChown(const ustring& path, unsigned uid, unsigned gid) {
   if (lchown(path.c_str(), uid, gid) != 0) {
     const int error = errno;
-    LOG_ERROR(kComponent, "FSChown: Failed to chown '%s' (code: %d, msg: %s)\n", path.c_str(), error, strerror(error));
+    LOG_ERROR(kComponent, "FSChown: Failed to chown '%s' (code: %d, msg: %s)\n", path.c_str(),
+              error, strerror(error));
     return -1;
   }
   return 0;

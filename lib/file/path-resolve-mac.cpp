@@ -2,15 +2,17 @@
 
 #include "path-resolve.h"
 
-// The File Manager is deprecated, yet nothing newer resolves a path to the stored spelling without following its leaf.
+// The File Manager is deprecated, yet nothing newer resolves a path to the stored spelling without
+// following its leaf.
 #pragma clang diagnostic ignored "-Wdeprecated-declarations"
 
 int ResolvePath(const ustring& path, LastComponent last, ustring& resolved) {
   const auto* text = reinterpret_cast<const UInt8*>(path.c_str());
   FSRef ref;
-  OSStatus status = last == LastComponent::kFollowLink
-                        ? FSPathMakeRef(text, &ref, nullptr)
-                        : FSPathMakeRefWithOptions(text, kFSPathMakeRefDoNotFollowLeafSymlink, &ref, nullptr);
+  OSStatus status =
+      last == LastComponent::kFollowLink
+          ? FSPathMakeRef(text, &ref, nullptr)
+          : FSPathMakeRefWithOptions(text, kFSPathMakeRefDoNotFollowLeafSymlink, &ref, nullptr);
   if (status != noErr) {
     return status;
   }

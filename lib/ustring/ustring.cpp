@@ -1,5 +1,6 @@
-// The string on its two buffers. Everything that writes text comes down to one of `append(const char*, n)`,
-// `append(char, n)`, `append(const unsigned short*, n)` and `append(unsigned short, n)`.
+// The string on its two buffers. Everything that writes text comes down to one of `append(const
+// char*, n)`, `append(char, n)`, `append(const unsigned short*, n)` and `append(unsigned short,
+// n)`.
 
 #include "ustring.h"
 
@@ -22,8 +23,8 @@ using size_type = ustring::size_type;
 
 constexpr size_type kInitialCapacity = 4;
 
-// The numbers at the end of the warnings. They name the place of the failure to whoever searches for the text, and stay
-// when the lines of this file move.
+// The numbers at the end of the warnings. They name the place of the failure to whoever searches
+// for the text, and stay when the lines of this file move.
 constexpr int kLineToUtf8 = 888;
 constexpr int kLineFromUtf8 = 921;
 constexpr int kLineGetNormalizer = 1014;
@@ -44,8 +45,8 @@ int32_t to_icu_capacity(size_type capacity) {
 
 // Put together first, so that it goes out in one piece.
 void warn(const char* function, UErrorCode err, int line) {
-  const std::string text = std::string("Warning: ") + function + ": error code " + std::to_string(err) + " at line " +
-                           std::to_string(line) + "\n";
+  const std::string text = std::string("Warning: ") + function + ": error code " +
+                           std::to_string(err) + " at line " + std::to_string(line) + "\n";
   std::cerr << text << std::flush;
 }
 
@@ -294,7 +295,8 @@ ustring& ustring::append(char c, size_type n) {
 ustring& ustring::append(unsigned short u, size_type n) {
   update_wdata();
   realloc_wdata(need_for(wdata_len, n));
-  // A unit 0 would end the text in the middle: units behind it would be counted and yet lost in UTF-8.
+  // A unit 0 would end the text in the middle: units behind it would be counted and yet lost in
+  // UTF-8.
   const size_type count = u == 0 ? 0 : n;
   std::fill_n(wdata + wdata_len, count, u);
   return finish_wdata(wdata_len + count);
@@ -453,8 +455,9 @@ size_type ustring::rfind(const char* x, size_type pos) const {
   if (count == 0) {
     return start;
   }
-  return find_backward(data, std::min(start, data_len - count),
-                       [=](const char& byte) { return byte == x[0] && std::memcmp(&byte, x, count) == 0; });
+  return find_backward(data, std::min(start, data_len - count), [=](const char& byte) {
+    return byte == x[0] && std::memcmp(&byte, x, count) == 0;
+  });
 }
 
 size_type ustring::find_last_of(const char* x, size_type pos) const {
@@ -474,7 +477,8 @@ size_type ustring::find_last_not_of(const char* x, size_type pos) const {
     return npos;
   }
   const ByteSet set(x);
-  return find_backward(data, std::min(pos, data_len - 1), [&](char byte) { return !set.has(byte); });
+  return find_backward(data, std::min(pos, data_len - 1),
+                       [&](char byte) { return !set.has(byte); });
 }
 
 int ustring::compare(const ustring& other, size_type n) const {
@@ -482,8 +486,8 @@ int ustring::compare(const ustring& other, size_type n) const {
   if (std::strncmp(data, other.data, std::min(n, common + 1)) == 0) {
     return 0;
   }
-  // Only the sign of that result is defined. As the texts differ before either ends, the difference can be looked for
-  // without regard to the NUL: in blocks first, then bytes.
+  // Only the sign of that result is defined. As the texts differ before either ends, the difference
+  // can be looked for without regard to the NUL: in blocks first, then bytes.
   constexpr size_type kBlock = 256;
   size_type i = 0;
   while (i + kBlock <= common && std::memcmp(data + i, other.data + i, kBlock) == 0) {
@@ -528,8 +532,8 @@ ustring ustring::normalize(const ustring& s, normalization_form f) {
   err = U_ZERO_ERROR;
   // Ill-formed text has no UTF-16 form: it is tried, and warned of, before either call.
   s.update_wdata();
-  const int32_t written =
-      unorm2_normalize(normalizer, to_icu(s.wdata), -1, to_icu(result.wdata), to_icu_capacity(result.wdata_cap), &err);
+  const int32_t written = unorm2_normalize(normalizer, to_icu(s.wdata), -1, to_icu(result.wdata),
+                                           to_icu_capacity(result.wdata_cap), &err);
   if (U_FAILURE(err)) {
     warn("unorm2_normalize", err, kLineNormalize);
     result.clear();

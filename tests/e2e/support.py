@@ -16,7 +16,8 @@ LEVELS = "launcher_debug=7\nservice_debug=7\nextractor_debug=7\n"
 ROOT, NOBODY = os.geteuid() == 0, 65534
 EXECUTABLE, INFO = "Contents/MacOS/lumivo-drive-ui", "Contents/Resources/INFO"
 # The client: writes its pid file, and ends the way HOME/client-mode says when it is asked to. As large as a program.
-CLIENT = """#!/bin/sh
+CLIENT = (
+    """#!/bin/sh
 echo "pid=$$" >"$HOME/.Lumivo/ui.pid"
 case $(cat "$HOME/client-mode" 2>/dev/null) in
   ignore) trap "" TERM ;;
@@ -25,7 +26,9 @@ case $(cat "$HOME/client-mode" 2>/dev/null) in
 esac
 for tenth in $(seq 1200); do sleep 0.1; done
 exit
-""" + "#" * 100_000
+"""
+    + "#" * 100_000
+)
 
 
 def wait_for(condition, what, seconds=20):
@@ -42,7 +45,9 @@ def wait_for(condition, what, seconds=20):
 def alive(pid):
     """Whether the process runs: a zombie does not."""
     try:
-        return pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()[0] not in "ZX"
+        return (
+            pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()[0] not in "ZX"
+        )
     except OSError:
         return False
 
@@ -65,10 +70,17 @@ def tree(folder):
 def make_client(app, build, files):
     """A client with the kinds of entries that real ones have.
 
-    With `files` there are that many more, some of them links and some executable, in folders of fifty."""
-    contents = {"help/tool.sh": "#!/bin/sh\n", "Größe 図/é.txt": "accents\n", f"only in {build}.txt": f"build {build}\n"}
+    With `files` there are that many more, some of them links and some executable, in folders of fifty.
+    """
+    contents = {
+        "help/tool.sh": "#!/bin/sh\n",
+        "Größe 図/é.txt": "accents\n",
+        f"only in {build}.txt": f"build {build}\n",
+    }
     for number in range(files):
-        contents[f"many/ö{number // 50}/{number}"] = f"{build} {number}\n" * (number % 30) if number % 25 else None
+        contents[f"many/ö{number // 50}/{number}"] = (
+            f"{build} {number}\n" * (number % 30) if number % 25 else None
+        )
     for name, text in contents.items():
         path = app / "Contents/Resources" / name
         path.parent.mkdir(parents=True, exist_ok=True)
@@ -94,8 +106,11 @@ class Packages:
         if (build, files) not in cls.made:
             app = pathlib.Path(cls.scratch.name, f"{build}-{files}/Lumivo.app")
             make_client(app, build, files)
-            subprocess.run([MAKE_PACKAGE, app, app.parent, "--build", str(build), "--reader", READER], check=True,
-                           stdout=subprocess.DEVNULL)
+            subprocess.run(
+                [MAKE_PACKAGE, app, app.parent, "--build", str(build), "--reader", READER],
+                check=True,
+                stdout=subprocess.DEVNULL,
+            )
             shutil.copy(app.parent / "INFO", app / INFO)
             cls.made[build, files] = (app, tree(app))
         return cls.made[build, files]
@@ -118,8 +133,10 @@ class Case(unittest.TestCase):
     def begin(self, installed=None, package=None, below=None, user=None):
         """A fresh home, with a complete client that does not run, and the package in the bundle."""
         self.end_clients()
-        self.home, self.temporary = (pathlib.Path(tempfile.mkdtemp(dir=folder)) for folder in (below or self.folder,
-                                                                                             self.folder))
+        self.home, self.temporary = (
+            pathlib.Path(tempfile.mkdtemp(dir=folder))
+            for folder in (below or self.folder, self.folder)
+        )
         self.app = self.home / ".Lumivo/Lumivo.app"
         if installed:
             shutil.copytree(Packages.of(installed, self.files)[0], self.app, symlinks=True)
@@ -131,7 +148,9 @@ class Case(unittest.TestCase):
     def copy_bundle(self, name):
         """A copy of the staged bundle, without a package and with all levels."""
         bundle = self.folder / name
-        shutil.copytree(BUNDLE, bundle, symlinks=True, ignore=shutil.ignore_patterns("lumivo.lvp", "INFO"))
+        shutil.copytree(
+            BUNDLE, bundle, symlinks=True, ignore=shutil.ignore_patterns("lumivo.lvp", "INFO")
+        )
         (bundle / "Contents/Resources/package").mkdir(exist_ok=True)
         (bundle / "log/launcher.debug").write_text(LEVELS)
         return bundle
@@ -149,16 +168,32 @@ class Case(unittest.TestCase):
 
     def environment(self, **changes):
         """What a session sets, with HOME and the temporary folder of this case."""
-        environment = {"HOME": str(self.home), "TMPDIR": str(self.temporary), "PATH": os.environ["PATH"],
-                       "QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8"}
-        return {name: str(value) for name, value in {**environment, **changes}.items() if value is not None}
+        environment = {
+            "HOME": str(self.home),
+            "TMPDIR": str(self.temporary),
+            "PATH": os.environ["PATH"],
+            "QT_QPA_PLATFORM": "offscreen",
+            "LC_ALL": "C.UTF-8",
+        }
+        return {
+            name: str(value)
+            for name, value in {**environment, **changes}.items()
+            if value is not None
+        }
 
     def start(self, bundle=None, command=(), user=None, **changes):
         """Starts the launcher; its output is collected. `command` goes in front of it."""
         executable = (bundle or self.bundle) / "Contents/MacOS/lumivo-launcher"
         options = {"user": user, "group": user, "extra_groups": []} if user else {}
-        return subprocess.Popen([*command, str(executable)], env=self.environment(**changes), cwd=self.folder, text=True,
-                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, **options)
+        return subprocess.Popen(
+            [*command, str(executable)],
+            env=self.environment(**changes),
+            cwd=self.folder,
+            text=True,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.PIPE,
+            **options,
+        )
 
     def run_launcher(self, **options):
         """Runs the launcher to its end, which has to be a good one; returns what it printed."""
@@ -175,20 +210,30 @@ class Case(unittest.TestCase):
     def clients(self):
         """The process ids of the clients that run from this test's folder."""
         line = f"^/bin/sh {self.folder}/.*/lumivo-drive-ui$"
-        return [int(pid) for pid in subprocess.run(["pgrep", "-f", line], stdout=subprocess.PIPE, check=False).stdout.split()]
+        return [
+            int(pid)
+            for pid in subprocess.run(
+                ["pgrep", "-f", line], stdout=subprocess.PIPE, check=False
+            ).stdout.split()
+        ]
 
     def wait_for_client(self, *others):
         """The process id of the one client that runs but for the others, once its pid file is written."""
         pid_file = self.home / ".Lumivo/ui.pid"
         new = lambda: [pid for pid in self.clients() if pid not in others]
-        wait_for(lambda: pid_file.exists() and [f"pid={pid}\n" for pid in new()] == [pid_file.read_text()],
-                 f"a client; log:\n{self.log()}")
+        wait_for(
+            lambda: pid_file.exists()
+            and [f"pid={pid}\n" for pid in new()] == [pid_file.read_text()],
+            f"a client; log:\n{self.log()}",
+        )
         return new()[0]
 
     def end_clients(self):
         """Ends the clients, those too that have only just been started; nobody's process id stays on file."""
         while clients := self.clients():
-            subprocess.run(["kill", "-KILL", *map(str, clients)], stderr=subprocess.DEVNULL, check=False)
+            subprocess.run(
+                ["kill", "-KILL", *map(str, clients)], stderr=subprocess.DEVNULL, check=False
+            )
         if (self.home / ".Lumivo/ui.pid").is_file():
             (self.home / ".Lumivo/ui.pid").unlink()
 
@@ -201,7 +246,9 @@ class Case(unittest.TestCase):
 
     def assert_same_tree(self, found, complete):
         """By name: a difference of whole files would be too long to print."""
-        different = sorted(name for name in found.keys() | complete.keys() if found.get(name) != complete.get(name))
+        different = sorted(
+            name for name in found.keys() | complete.keys() if found.get(name) != complete.get(name)
+        )
         self.assertEqual(different, [])
 
     def assert_installed(self, complete):

@@ -26,12 +26,23 @@ class Runs(Case):
         aged.mkdir(parents=True)
         pid = self.install(3487)
         self.assertEqual(os.getsid(pid), pid, "the client leads a session of its own")
-        opened = {os.readlink(descriptor) for descriptor in pathlib.Path(f"/proc/{pid}/fd").iterdir()}
-        self.assertEqual(opened, {"/dev/null", str(self.app / EXECUTABLE)}, "what the client has open, itself included")
-        self.assertNotIn("TZ=", pathlib.Path(f"/proc/{pid}/environ").read_text(), "the launcher's own time zone")
+        opened = {
+            os.readlink(descriptor) for descriptor in pathlib.Path(f"/proc/{pid}/fd").iterdir()
+        }
+        self.assertEqual(
+            opened,
+            {"/dev/null", str(self.app / EXECUTABLE)},
+            "what the client has open, itself included",
+        )
+        self.assertNotIn(
+            "TZ=", pathlib.Path(f"/proc/{pid}/environ").read_text(), "the launcher's own time zone"
+        )
         self.assertFalse(aged.parent.exists())
-        self.assert_logged("[INFO] lumivo-service(%d): source does not exist\n", "source version = 0, target version = 3487",
-                           "[ERROR] mac/mac-service(%d): Cannot unregister bundle, ")
+        self.assert_logged(
+            "[INFO] lumivo-service(%d): source does not exist\n",
+            "source version = 0, target version = 3487",
+            "[ERROR] mac/mac-service(%d): Cannot unregister bundle, ",
+        )
 
     def test_upgrade_replaces_the_running_client(self):
         old, new = self.install(3487), self.install(3500)
@@ -46,8 +57,10 @@ class Runs(Case):
             others = self.clients()
             self.run_launcher()
             self.wait_for_client(*others)
-            self.assert_logged(f"source version = 3487, target version = {build}\n",
-                               "[DEBUG] launcher(%d): no need to upgrade\n")
+            self.assert_logged(
+                f"source version = 3487, target version = {build}\n",
+                "[DEBUG] launcher(%d): no need to upgrade\n",
+            )
             self.assert_same_tree(tree(self.app), before)
         (self.app / EXECUTABLE).unlink()
         self.install(3487)
@@ -58,9 +71,11 @@ class Runs(Case):
         self.put_package(3487)
         os.truncate(self.archive(), 1000)
         self.run_launcher()
-        self.assert_logged("[ERROR] lumivo-service(%d): Failed to extract package, and no old installation to rollback\n",
-                           "[ERROR] launcher(%d): Failed to upgrade package\n",
-                           "[ERROR] mac/mac-service(%d): Failed to launch Lumivo UI\n")
+        self.assert_logged(
+            "[ERROR] lumivo-service(%d): Failed to extract package, and no old installation to rollback\n",
+            "[ERROR] launcher(%d): Failed to upgrade package\n",
+            "[ERROR] mac/mac-service(%d): Failed to launch Lumivo UI\n",
+        )
         self.assertEqual(self.clients(), [])
         self.install(3487)
 
@@ -73,7 +88,9 @@ class Surroundings(Case):
             with self.subTest(locale=locale):
                 _, errors = self.run_launcher(LC_ALL=locale)
                 self.assertIn(f"libcommon/TavLocale:138 qPrintable(qstrDef)=[{code}\n] ", errors)
-                self.assertIn(f"libcommon/TavLocale:161 qPrintable(qstrLangFileName)=[:/{code}.qm] ", errors)
+                self.assertIn(
+                    f"libcommon/TavLocale:161 qPrintable(qstrLangFileName)=[:/{code}.qm] ", errors
+                )
 
     def test_levels_decide_what_is_logged(self):
         self.put_package(3487)
@@ -88,7 +105,11 @@ class Surroundings(Case):
         self.temporary.chmod(0o777)
         for home in (self.home, None):
             _, errors = self.run_launcher(user=NOBODY, HOME=home)
-            self.assertIn("[ERROR] lumivo-service", errors, "without a log folder, errors go to standard error")
+            self.assertIn(
+                "[ERROR] lumivo-service",
+                errors,
+                "without a log folder, errors go to standard error",
+            )
             self.assertFalse((self.home / ".Lumivo").exists() or os.path.exists("/.Lumivo"))
 
 
@@ -107,19 +128,26 @@ class Window(Case):
         window = wait_for(lambda: self.on_screen(*search).split(), "the dialog")[0]
         picture = lambda: self.on_screen("import", "-window", window, "rgb:-")
         pictures = [b""]
-        wait_for(lambda: pictures.append(picture()) or pictures[-1] == pictures[-2] != b"", "a picture that stays")
+        wait_for(
+            lambda: pictures.append(picture()) or pictures[-1] == pictures[-2] != b"",
+            "a picture that stays",
+        )
         samples = 0
         while samples < 4 and alive(old):
             for keys in (("windowfocus", "--sync", window), ("key", "Escape"), ("key", "alt+F4")):
                 self.on_screen("xdotool", *keys)
-            with subprocess.Popen(["xev", "-geometry", "800x600+0+0"], stdout=subprocess.DEVNULL) as cover:
+            with subprocess.Popen(
+                ["xev", "-geometry", "800x600+0+0"], stdout=subprocess.DEVNULL
+            ) as cover:
                 wait_for(lambda: picture() != pictures[-1], "the dialog is covered")
                 cover.terminate()
             wait_for(lambda: picture() == pictures[-1], "the dialog is painted again", 1)
             samples += alive(old)
         self.assertGreaterEqual(samples, 2)
         _, errors = process.communicate(timeout=60)
-        self.assertEqual((process.returncode, alive(old), "QThread" in errors), (0, False, False), errors)
+        self.assertEqual(
+            (process.returncode, alive(old), "QThread" in errors), (0, False, False), errors
+        )
         self.assert_installed(complete)
         self.wait_for_client()
 

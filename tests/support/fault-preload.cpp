@@ -1,19 +1,25 @@
-// Makes chosen calls into the C library fail, so that a test sees what a program makes of it. For LD_PRELOAD on Linux.
+// Makes chosen calls into the C library fail, so that a test sees what a program makes of it. For
+// LD_PRELOAD on Linux.
 //
-//   FAULT_FUNCTION    the calls to count: names with a comma between them ("rename,unlinkat"), "changes" for every call
-//                     that changes the file system, or "all". An open under any of its names is "open", or "open-w"
-//                     when it may write or create; closing what was open for writing is "close-w"
-//   FAULT_PATH        count only calls with this text in their path; a descriptor's path is what it was opened as
-//   FAULT_NTH         which of them meets the fault, from 1; without it nothing fails
+//   FAULT_FUNCTION    the calls to count: names with a comma between them ("rename,unlinkat"),
+//   "changes" for every call
+//                     that changes the file system, or "all". An open under any of its names is
+//                     "open", or "open-w" when it may write or create; closing what was open for
+//                     writing is "close-w"
+//   FAULT_PATH        count only calls with this text in their path; a descriptor's path is what it
+//   was opened as FAULT_NTH         which of them meets the fault, from 1; without it nothing fails
 //   FAULT_MODE        once    that call fails (the default)
 //                     always  it and all that follow fail
 //                     short   a read or write does 2 bytes of what it was asked to
-//                     kill    the process is killed instead of the call; of a read or write, half is done first
+//                     kill    the process is killed instead of the call; of a read or write, half
+//                     is done first
 //   FAULT_ERRNO       a number; default EIO
-//   FAULT_COUNT_FILE  a line for every counted call: its name and path. What a killed process did stays there
+//   FAULT_COUNT_FILE  a line for every counted call: its name and path. What a killed process did
+//   stays there
 //
-// The count is of one process, over all its threads. What it starts is not affected: the variables are taken from the
-// environment, LD_PRELOAD too. Calls that the C library makes within itself (stdio's, say) do not come by here.
+// The count is of one process, over all its threads. What it starts is not affected: the variables
+// are taken from the environment, LD_PRELOAD too. Calls that the C library makes within itself
+// (stdio's, say) do not come by here.
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -52,7 +58,9 @@ Plan* g_plan = new Plan;  // null before that, for whatever starts earlier
 
 std::string PathOf(int fd) {
   char text[4096] = {};
-  return readlink(("/proc/self/fd/" + std::to_string(fd)).c_str(), text, sizeof(text) - 1) > 0 ? text : "";
+  return readlink(("/proc/self/fd/" + std::to_string(fd)).c_str(), text, sizeof(text) - 1) > 0
+             ? text
+             : "";
 }
 
 std::string PathOf(int folder, const std::string& path) {
@@ -65,11 +73,15 @@ bool IsWriting(int flags) {
 
 enum class Fate { kGoesOn, kGoesOnAndIsLast, kFails };
 
-// Counts the call if it is looked for, and says what becomes of it. The `size` of a read or write may be cut short.
-Fate Decide(const std::string& name, const std::string& path, bool changes, size_t* size = nullptr) {
+// Counts the call if it is looked for, and says what becomes of it. The `size` of a read or write
+// may be cut short.
+Fate Decide(const std::string& name, const std::string& path, bool changes,
+            size_t* size = nullptr) {
   if (g_plan == nullptr || path.find(g_plan->path) == std::string::npos) return Fate::kGoesOn;
-  const bool isInGroup = g_plan->functions == ",all," || (changes && g_plan->functions == ",changes,");
-  if (!isInGroup && g_plan->functions.find("," + name + ",") == std::string::npos) return Fate::kGoesOn;
+  const bool isInGroup =
+      g_plan->functions == ",all," || (changes && g_plan->functions == ",changes,");
+  if (!isInGroup && g_plan->functions.find("," + name + ",") == std::string::npos)
+    return Fate::kGoesOn;
   const long count = ++g_plan->count;
   const int before = errno;
   if (FILE* list = fopen(g_plan->list.c_str(), "ae")) {
@@ -78,9 +90,11 @@ Fate Decide(const std::string& name, const std::string& path, bool changes, size
   }
   errno = before;
   const std::string& mode = g_plan->mode;
-  if (g_plan->nth < 1 || count < g_plan->nth || (count > g_plan->nth && mode != "always")) return Fate::kGoesOn;
+  if (g_plan->nth < 1 || count < g_plan->nth || (count > g_plan->nth && mode != "always"))
+    return Fate::kGoesOn;
   if (mode == "short") {
-    if (size != nullptr) *size = *size > 2 ? 2 : (*size + 1) / 2;  // so little that the rest takes more than one call
+    if (size != nullptr)
+      *size = *size > 2 ? 2 : (*size + 1) / 2;  // so little that the rest takes more than one call
     return Fate::kGoesOn;
   }
   if (mode == "kill") {
@@ -99,7 +113,8 @@ Function Next(const char* name) {
 
 }  // namespace
 
-// Under names of their own, so that the system's declarations with their attributes do not get in the way.
+// Under names of their own, so that the system's declarations with their attributes do not get in
+// the way.
 #define FAULT(type, failure, symbol, name, takes, passes, path, changes, size) \
   extern "C" type symbol##_fault takes __asm__(#symbol);                       \
   type symbol##_fault takes {                                                  \
@@ -111,18 +126,23 @@ Function Next(const char* name) {
   }
 #define TRANSFER(symbol, takes, passes, changes) \
   FAULT(ssize_t, -1, symbol, #symbol, takes, passes, PathOf(fd), changes, &size)
-#define CHANGE(symbol, takes, passes, path) FAULT(int, -1, symbol, #symbol, takes, passes, path, true, nullptr)
-#define LOOK(symbol, takes, passes, path) FAULT(int, -1, symbol, #symbol, takes, passes, path, false, nullptr)
-#define FIND(symbol, takes, passes, path) FAULT(void*, nullptr, symbol, #symbol, takes, passes, path, false, nullptr)
-#define OPEN(symbol, takes, passes, path) \
-  FAULT(int, -1, symbol, IsWriting(flags) ? "open-w" : "open", takes, passes, path, IsWriting(flags), nullptr)
+#define CHANGE(symbol, takes, passes, path) \
+  FAULT(int, -1, symbol, #symbol, takes, passes, path, true, nullptr)
+#define LOOK(symbol, takes, passes, path) \
+  FAULT(int, -1, symbol, #symbol, takes, passes, path, false, nullptr)
+#define FIND(symbol, takes, passes, path) \
+  FAULT(void*, nullptr, symbol, #symbol, takes, passes, path, false, nullptr)
+#define OPEN(symbol, takes, passes, path)                                           \
+  FAULT(int, -1, symbol, IsWriting(flags) ? "open-w" : "open", takes, passes, path, \
+        IsWriting(flags), nullptr)
 
 using Text = const char*;
 
 // The mode is an optional argument, passed like any other.
 OPEN(open, (Text path, int flags, mode_t mode), (path, flags, mode), path)
 OPEN(open64, (Text path, int flags, mode_t mode), (path, flags, mode), path)
-OPEN(openat, (int folder, Text path, int flags, mode_t mode), (folder, path, flags, mode), PathOf(folder, path))
+OPEN(openat, (int folder, Text path, int flags, mode_t mode), (folder, path, flags, mode),
+     PathOf(folder, path))
 OPEN(__open_2, (Text path, int flags), (path, flags), path)
 
 CHANGE(mkdir, (Text path, mode_t mode), (path, mode), path)
@@ -132,7 +152,8 @@ CHANGE(unlinkat, (int folder, Text path, int flags), (folder, path, flags), Path
 CHANGE(rmdir, (Text path), (path), path)
 CHANGE(remove, (Text path), (path), path)
 CHANGE(symlink, (Text text, Text path), (text, path), path)
-CHANGE(linkat, (int from, Text path, int to, Text name, int flags), (from, path, to, name, flags), PathOf(to, name))
+CHANGE(linkat, (int from, Text path, int to, Text name, int flags), (from, path, to, name, flags),
+       PathOf(to, name))
 CHANGE(chmod, (Text path, mode_t mode), (path, mode), path)
 CHANGE(lchmod, (Text path, mode_t mode), (path, mode), path)
 CHANGE(fsync, (int fd), (fd), PathOf(fd))
@@ -142,7 +163,8 @@ LOOK(access, (Text path, int mode), (path, mode), path)
 LOOK(stat, (Text path, struct stat* info), (path, info), path)
 LOOK(lstat, (Text path, struct stat* info), (path, info), path)
 LOOK(fstat, (int fd, struct stat* info), (fd, info), PathOf(fd))
-LOOK(fstatat, (int dir, Text path, struct stat* info, int flags), (dir, path, info, flags), PathOf(dir, path))
+LOOK(fstatat, (int dir, Text path, struct stat* info, int flags), (dir, path, info, flags),
+     PathOf(dir, path))
 FIND(realpath, (Text path, char* text), (path, text), path)
 FIND(opendir, (Text path), (path), path)
 FIND(fdopendir, (int fd), (fd), PathOf(fd))

@@ -10,10 +10,11 @@
 #include <string>
 #include <system_error>
 
-/// A fresh folder of one test, removed with everything in it when the object goes. `path` is absolute and free of
-/// links, so that it can be compared with what the file system reports.
+/// A fresh folder of one test, removed with everything in it when the object goes. `path` is
+/// absolute and free of links, so that it can be compared with what the file system reports.
 struct TempDir {
-  /// Makes the folder below `parent`, by default the system's temporary folder; throws when that fails.
+  /// Makes the folder below `parent`, by default the system's temporary folder; throws when that
+  /// fails.
   explicit TempDir(const std::filesystem::path& parent = std::filesystem::temp_directory_path())
       : path((std::filesystem::canonical(parent) / "lumivo-test-XXXXXX").string()) {
     if (mkdtemp(path.data()) == nullptr) throw std::runtime_error("no temporary folder: " + path);

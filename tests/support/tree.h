@@ -28,7 +28,8 @@ inline std::string ListTree(const std::string& root) {
   std::set<std::string> words;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
     const std::string name = entry.path().string().substr(root.size() + 1);
-    words.insert(entry.is_symlink()     ? name + ">" + std::filesystem::read_symlink(entry.path()).string()
+    words.insert(entry.is_symlink()
+                     ? name + ">" + std::filesystem::read_symlink(entry.path()).string()
                  : entry.is_directory() ? name + "/"
                                         : name + "=" + ReadFile(entry.path().string()));
   }

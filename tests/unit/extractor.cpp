@@ -17,10 +17,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Writes a tar of what a text lists, as it stands: "d/" a folder, "f=abc" a file, "l>x" a link, "h<f" a hard one.
+// Writes a tar of what a text lists, as it stands: "d/" a folder, "f=abc" a file, "l>x" a link,
+// "h<f" a hard one.
 void WriteTar(const ustring& path, const std::string& text) {
   const std::unique_ptr<archive, int (*)(archive*)> writer(archive_write_new(), archive_write_free);
-  const std::unique_ptr<archive_entry, void (*)(archive_entry*)> entry(archive_entry_new(), archive_entry_free);
+  const std::unique_ptr<archive_entry, void (*)(archive_entry*)> entry(archive_entry_new(),
+                                                                       archive_entry_free);
   archive_write_set_format_pax_restricted(writer.get());
   ASSERT_EQ(archive_write_open_filename(writer.get(), path.c_str()), ARCHIVE_OK);
   std::istringstream words(text);
@@ -29,11 +31,14 @@ void WriteTar(const ustring& path, const std::string& text) {
     const std::string rest = word.substr(mark + 1);
     archive_entry_clear(entry.get());
     archive_entry_set_pathname(entry.get(), word.substr(0, mark).c_str());
-    archive_entry_set_filetype(entry.get(), word[mark] == '/' ? AE_IFDIR : word[mark] == '>' ? AE_IFLNK : AE_IFREG);
+    archive_entry_set_filetype(entry.get(), word[mark] == '/'   ? AE_IFDIR
+                                            : word[mark] == '>' ? AE_IFLNK
+                                                                : AE_IFREG);
     archive_entry_set_perm(entry.get(), 0700);
     if (word[mark] == '>') archive_entry_set_symlink(entry.get(), rest.c_str());
     if (word[mark] == '<') archive_entry_set_hardlink(entry.get(), rest.c_str());
-    if (word[mark] == '=') archive_entry_set_size(entry.get(), static_cast<la_int64_t>(rest.size()));
+    if (word[mark] == '=')
+      archive_entry_set_size(entry.get(), static_cast<la_int64_t>(rest.size()));
     ASSERT_EQ(archive_write_header(writer.get(), entry.get()), ARCHIVE_OK);
     if (word[mark] == '=') archive_write_data(writer.get(), rest.data(), rest.size());
   }
@@ -53,19 +58,23 @@ class ExtractorTest : public testing::Test {
 TEST_F(ExtractorTest, ReadsWhatWellKnownToolsWrite) {
   setlocale(LC_ALL, "C.UTF-8");
   const std::string from = home.folder / "from", in = home.folder / "in";
-  BuildTree(from, "Contents/MacOS Contents/MacOS/tool=t Contents/Gr\u00f6\u00dfe= Contents/l>MacOS/tool Contents/shut");
+  BuildTree(from,
+            "Contents/MacOS Contents/MacOS/tool=t Contents/Gr\u00f6\u00dfe= Contents/l>MacOS/tool "
+            "Contents/shut");
   fs::permissions(from + "/Contents/MacOS/tool", fs::perms(0755));
   fs::permissions(from + "/Contents/shut", fs::perms(0555));
   for (const std::string command :
-       {"tar -czf ../package .", "tar -cJf ../package Contents", "zip -qry ../p.zip . && mv ../p.zip ../package",
-        "bsdtar -cf ../package --format ustar .", "find . | cpio -o -H newc --quiet > ../package",
+       {"tar -czf ../package .", "tar -cJf ../package Contents",
+        "zip -qry ../p.zip . && mv ../p.zip ../package", "bsdtar -cf ../package --format ustar .",
+        "find . | cpio -o -H newc --quiet > ../package",
         "7z a -bd -snl ../p.7z Contents >/dev/null && mv ../p.7z ../package"}) {
     SCOPED_TRACE(command);
     ASSERT_EQ(system(("cd '" + from + "' && rm -rf ../in ../package && " + command).c_str()), 0);
     EXPECT_EQ(extractor.Extract(), 0) << home.Log();
     EXPECT_EQ(ListTree(in), ListTree(from));
     EXPECT_EQ(fs::status(in + "/Contents/MacOS/tool").permissions(), fs::perms(0755));
-    EXPECT_EQ(fs::status(in + "/Contents/shut").permissions(), fs::perms(0755)) << "its owner must be able to empty it";
+    EXPECT_EQ(fs::status(in + "/Contents/shut").permissions(), fs::perms(0755))
+        << "its owner must be able to empty it";
   }
 }
 
@@ -78,10 +87,12 @@ TEST_F(ExtractorTest, ReportsTheLabelOnceAndThenEveryEntry) {
                    [&](const QString& text) { reports << text; });
   WriteTar(extractor.archive, "a/ a/1=x a/2=");
   ASSERT_EQ(extractor.Extract(), 0);
-  EXPECT_EQ(reports.join(QLatin1Char(' ')), QStringLiteral("Lumivo Drive is initializing... 1/3 2/3 3/3"));
+  EXPECT_EQ(reports.join(QLatin1Char(' ')),
+            QStringLiteral("Lumivo Drive is initializing... 1/3 2/3 3/3"));
 }
 
-// Beside the destination lies a folder whose name begins like its own. A row: entries, what they leave, the result.
+// Beside the destination lies a folder whose name begins like its own. A row: entries, what they
+// leave, the result.
 TEST_F(ExtractorTest, NothingIsWrittenOutside) {
   const std::string arena = home.folder / "arena", in = arena + "/in", neighbour = arena + "/in2";
   BuildTree(arena, "in2/sub in2/secret=s in2/sub/x=x");
@@ -109,7 +120,9 @@ TEST_F(ExtractorTest, NothingIsWrittenOutside) {
     EXPECT_EQ(ListTree(arena), before);
     EXPECT_EQ(fs::status(neighbour).permissions(), mode);
   }
-  EXPECT_EQ(QString::fromStdString(home.Log()).count(QStringLiteral("extract2 failed: 'the way to")), 6) << home.Log();
+  EXPECT_EQ(
+      QString::fromStdString(home.Log()).count(QStringLiteral("extract2 failed: 'the way to")), 6)
+      << home.Log();
 }
 
 TEST_F(ExtractorTest, ADestinationBehindALinkStaysBehindIt) {
@@ -126,7 +139,9 @@ TEST_F(ExtractorTest, ListsTheEntriesAndRefusesWhatIsMissing) {
   EXPECT_EQ(extractor.List(), 0);
   EXPECT_EQ(testing::internal::GetCapturedStdout(), "a/\na/1\n");
   extractor.archive = "";
-  EXPECT_EQ(extractor.Extract() + extractor.Count() + extractor.List() + Extractor::copy_data(nullptr, nullptr), -4);
+  EXPECT_EQ(extractor.Extract() + extractor.Count() + extractor.List() +
+                Extractor::copy_data(nullptr, nullptr),
+            -4);
 }
 
 }  // namespace

@@ -25,7 +25,8 @@ TEST(Launcher, DialogShowsWhatIsReportedAndCannotBeCancelled) {
   EXPECT_FALSE(dialog->isVisible());
   EXPECT_TRUE(dialog->findChildren<QPushButton*>().isEmpty());
   dialog->show();
-  const int reports[][3] = {{120, 37, 30}, {0, 5, 30}, {-3, 1, 30}, {21474836, 21474836, 100}, {3, 1, 33}};
+  const int reports[][3] = {
+      {120, 37, 30}, {0, 5, 30}, {-3, 1, 30}, {21474836, 21474836, 100}, {3, 1, 33}};
   for (const auto& [total, steps, value] : reports) {
     Notify_Adapter::GetInstance()->UpdateProgress(total, steps);
     EXPECT_EQ(dialog->value(), value) << steps << " of " << total;
@@ -35,7 +36,8 @@ TEST(Launcher, DialogShowsWhatIsReportedAndCannotBeCancelled) {
   EXPECT_EQ(dialog->labelText(), QStringLiteral("text"));
 }
 
-// Nothing can be installed here: the bundle beside the test has no package. The run comes to its end all the same.
+// Nothing can be installed here: the bundle beside the test has no package. The run comes to its
+// end all the same.
 TEST(Launcher, DestroyingItWaitsForTheRunningWorker) {
   const TestHome home;
   auto launcher = std::make_unique<Launcher>();

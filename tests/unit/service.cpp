@@ -39,7 +39,8 @@ class ServiceTest : public testing::Test {
 };
 
 TEST_F(ServiceTest, OnlyANewerBuildNeedsThePackage) {
-  BuildTree(Path("Lumivo.app"), "Contents/MacOS Contents/MacOS/lumivo-drive-ui= Contents/Resources");
+  BuildTree(Path("Lumivo.app"),
+            "Contents/MacOS Contents/MacOS/lumivo-drive-ui= Contents/Resources");
   // The installed version file, the build of the package, and whether it is needed.
   const std::tuple<std::string, const char*, bool> rows[] = {
       {"[Version]\nbuild_version=3487\n", "999", false},
@@ -81,7 +82,8 @@ TEST_F(ServiceTest, OnlyTheOneProcessOfThePidFileIsSignalled) {
   const std::string own = std::to_string(getpid());
   EXPECT_EQ(sent("pid=1234"), "1234:15 ");
   EXPECT_EQ(sent("pid = \"1234\" # the client\r\n"), "1234:15 ");
-  for (const std::string value : {"0", "-1", "4294967295", "4294968530", "99999999999999999999", "abc", own.c_str()}) {
+  for (const std::string value :
+       {"0", "-1", "4294967295", "4294968530", "99999999999999999999", "abc", own.c_str()}) {
     EXPECT_EQ(sent("pid=" + value + "\n"), "") << value;
     EXPECT_TRUE(home.Logged("names no process to stop: '" + value + "'\n")) << home.Log();
   }
@@ -93,7 +95,8 @@ TEST_F(ServiceTest, CopiesTreesAndReportsWhatItCannotCopy) {
   EXPECT_EQ(service.FSCopyPath(Path("from"), Path("to")), 0);
   EXPECT_EQ(ListTree(Path("to")), "a/ a/b/ a/b/f=data g=");
   BuildTree(Path("from"), "a/dangling>nowhere");
-  for (const char* from : {"none", "from/g", "from"}) EXPECT_EQ(service.FSCopyPath(Path(from), Path("to/g/x")), -1);
+  for (const char* from : {"none", "from/g", "from"})
+    EXPECT_EQ(service.FSCopyPath(Path(from), Path("to/g/x")), -1);
   EXPECT_EQ(service.FSCopyPath(Path("from"), Path("to3")), -1);
 }
 

@@ -37,12 +37,15 @@ struct Catalog : QTranslator {
 };
 
 TEST(Texts, AreFoundByKeyAndUnescapedAndFallBackToEnglish) {
-  const std::pair<const char*, int> ids[] = {{"APP_NAME", 116}, {"app_name ", -1}, {"tutorial_third_title", 522}};
+  const std::pair<const char*, int> ids[] = {
+      {"APP_NAME", 116}, {"app_name ", -1}, {"tutorial_third_title", 522}};
   for (const auto& [key, id] : ids) EXPECT_EQ(StrTable::LookupStrID(key), id) << key;
 
   struct Translator : QTranslator {
     QString translate(const char* context, const char* source, const char*, int) const override {
-      return context == QByteArray("global") && source == QByteArray("Lumivo Drive") ? "a\\nb\\tc\\r%1" : QString();
+      return context == QByteArray("global") && source == QByteArray("Lumivo Drive")
+                 ? "a\\nb\\tc\\r%1"
+                 : QString();
     }
   } translator;
   QCoreApplication::installTranslator(&translator);
@@ -64,31 +67,38 @@ TEST(Texts, EveryCatalogTranslatesEveryTextOfTheTable) {
     EXPECT_EQ(TavLocale::getLanguageAbbrByID(codes.size()), code);
     codes << code;
     // What the catalog itself says of its texts is lost when it is built in.
-    const QString file = QString::fromStdString(ReadFile(LUMIVO_CATALOGS "/" + std::string(code) + ".ts"));
+    const QString file =
+        QString::fromStdString(ReadFile(LUMIVO_CATALOGS "/" + std::string(code) + ".ts"));
     EXPECT_EQ(file.count("<message>"), kTexts);
     EXPECT_FALSE(file.contains(" type=")) << "something is unfinished or vanished";
     const QLocale english("en_US"), own(locale);
     QMap<QString, QString> dates;
-    for (int i = 1; i <= 12; ++i) dates[english.standaloneMonthName(i)] = own.standaloneMonthName(i);
+    for (int i = 1; i <= 12; ++i)
+      dates[english.standaloneMonthName(i)] = own.standaloneMonthName(i);
     for (int i = 1; i <= 7; ++i) dates[english.standaloneDayName(i)] = own.standaloneDayName(i);
     for (const QString& source : sources) {
       SCOPED_TRACE(qPrintable(source));
       const QString text = catalog.translate("global", source.toUtf8());
       EXPECT_FALSE(text.isEmpty());
       EXPECT_EQ(text, text.trimmed());
-      for (const char* mark : {"%", "%1", "%2", "\\n", "\\t"}) EXPECT_EQ(text.count(mark), source.count(mark)) << mark;
+      for (const char* mark : {"%", "%1", "%2", "\\n", "\\t"})
+        EXPECT_EQ(text.count(mark), source.count(mark)) << mark;
       if (dates.contains(source)) {
-        EXPECT_EQ(text.toLower(), dates[source].toLower()) << qPrintable(text + " is not " + dates[source]);
+        EXPECT_EQ(text.toLower(), dates[source].toLower())
+            << qPrintable(text + " is not " + dates[source]);
       } else {
-        EXPECT_EQ(text == source, own == english || loanWords.contains(code + (' ' + source))) << qPrintable(text);
+        EXPECT_EQ(text == source, own == english || loanWords.contains(code + (' ' + source)))
+            << qPrintable(text);
       }
     }
   }
   EXPECT_EQ(TavLocale::getSupportedLanguages(), codes);
-  EXPECT_EQ(TavLocale::getLanguageAbbrByID(-1) + TavLocale::getLanguageAbbrByID(codes.size()), QString());
+  EXPECT_EQ(TavLocale::getLanguageAbbrByID(-1) + TavLocale::getLanguageAbbrByID(codes.size()),
+            QString());
 }
 
-// With the dialog's own layout: what its label offers, and what the style leaves of a title bar's 400 pixels.
+// With the dialog's own layout: what its label offers, and what the style leaves of a title bar's
+// 400 pixels.
 TEST(Texts, WhatTheDialogShowsFitsIntoItInEveryLanguage) {
   constexpr int kTitleButtonsAndIcon = 120;
   for (const QString& code : TavLocale::getSupportedLanguages()) {
@@ -100,10 +110,12 @@ TEST(Texts, WhatTheDialogShowsFitsIntoItInEveryLanguage) {
     const auto* label = dialog.findChild<QLabel*>();
     for (const int id : {kTextPreparing, kTextReady}) {
       dialog.setLabelText(StrTable::LoadStr(id));
-      EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->contentsRect().width())
+      EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()),
+                label->contentsRect().width())
           << qPrintable(label->text());
     }
-    EXPECT_LE(dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()), dialog.width() - kTitleButtonsAndIcon);
+    EXPECT_LE(dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()),
+              dialog.width() - kTitleButtonsAndIcon);
   }
 }
 

@@ -17,7 +17,8 @@ static std::string Draw(std::string key, int draws, int width) {
   while (draws-- > 0) {
     TmpNameGen::rc4_randomize(state, bytes, 6);
     for (int bit = 0; bit < 48; bit += width) {
-      const int digit = (bytes[bit / 8] << 8 | bytes[bit / 8 + 1]) >> (16 - width - bit % 8) & ((1 << width) - 1);
+      const int digit =
+          (bytes[bit / 8] << 8 | bytes[bit / 8 + 1]) >> (16 - width - bit % 8) & ((1 << width) - 1);
       text += "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_"[digit];
     }
   }

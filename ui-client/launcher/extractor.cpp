@@ -23,7 +23,8 @@ namespace {
 const ustring kComponent = "extractor_debug";
 
 constexpr size_t kBlockSize = 10240;
-constexpr int kWriterOptions = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
+constexpr int kWriterOptions =
+    ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
 struct ReaderCloser {
   void operator()(struct archive* reader) const { archive_read_free(reader); }
@@ -53,19 +54,22 @@ bool IsLink(const std::string& path) {
 std::string ParentFolder(const std::string& path) {
   const size_t end = path.find_last_not_of('/');
   const size_t slash = path.find_last_of('/', end);
-  return slash == std::string::npos || slash == 0 ? "/" : path.substr(0, path.find_last_not_of('/', slash) + 1);
+  return slash == std::string::npos || slash == 0
+             ? "/"
+             : path.substr(0, path.find_last_not_of('/', slash) + 1);
 }
 
 /// Keeps entries from being written through links that lead out of the destination.
 ///
-/// The file system itself is asked where a folder lies, so that links behind links, other spellings and names that the
-/// archive uses twice cannot deceive it. As long as the archive made no link, nothing is looked up.
+/// The file system itself is asked where a folder lies, so that links behind links, other spellings
+/// and names that the archive uses twice cannot deceive it. As long as the archive made no link,
+/// nothing is looked up.
 class LinkGuard {
  public:
   explicit LinkGuard(const std::string& folder) : folder_(folder) {}
 
-  /// Whether the way to `path` stays within the destination. A folder may be a link already, so its own name belongs to
-  /// the way; anything else is replaced, not followed.
+  /// Whether the way to `path` stays within the destination. A folder may be a link already, so its
+  /// own name belongs to the way; anything else is replaced, not followed.
   bool StaysInside(const std::string& path, bool isFolder) {
     if (!hasLinks_) return true;
     std::string way = isFolder ? path : ParentFolder(path);
@@ -84,9 +88,11 @@ class LinkGuard {
     return inside;
   }
 
-  /// A link was written, symbolic or (to one, perhaps) hard: what was looked up before may lie elsewhere now.
+  /// A link was written, symbolic or (to one, perhaps) hard: what was looked up before may lie
+  /// elsewhere now.
   void LinkWritten(bool symbolic) {
-    // Only now is the destination there for certain. Where a link has taken its place there is no inside at all.
+    // Only now is the destination there for certain. Where a link has taken its place there is no
+    // inside at all.
     if (symbolic && root_.empty() && !IsLink(folder_)) root_ = RealPath(folder_);
     hasLinks_ = hasLinks_ || symbolic;
     inside_.clear();
@@ -118,14 +124,15 @@ ArchiveReader OpenForHeaders(const Extractor& extractor) {
     return nullptr;
   }
   if (Open(reader.get(), extractor.archive) != ARCHIVE_OK) {
-    LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n", archive_error_string(reader.get()));
+    LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n",
+              archive_error_string(reader.get()));
     return nullptr;
   }
   return reader;
 }
 
-// A zip that was cut short in the directory at its end can still be read from the front: it then looks whole, but has
-// lost its modes and links. Any other archive passes.
+// A zip that was cut short in the directory at its end can still be read from the front: it then
+// looks whole, but has lost its modes and links. Any other archive passes.
 bool HasItsDirectory(struct archive* opened, const ustring& path) {
   const bool isZip = (archive_format(opened) & ARCHIVE_FORMAT_BASE_MASK) == ARCHIVE_FORMAT_ZIP;
   if (!isZip || archive_filter_code(opened, 0) != ARCHIVE_FILTER_NONE) return true;
@@ -148,13 +155,16 @@ void MoveBelow(const std::string& folder, struct archive_entry* entry, const cha
 bool MayWrite(LinkGuard* guard, struct archive_entry* entry) {
   const bool isFolder = archive_entry_filetype(entry) == AE_IFDIR;
   if (!guard->StaysInside(archive_entry_pathname(entry), isFolder)) return false;
-  // Data that follows a hard link is written into its target, and some systems link to what a link leads to.
+  // Data that follows a hard link is written into its target, and some systems link to what a link
+  // leads to.
   const char* target = archive_entry_hardlink(entry);
   return target == nullptr || guard->StaysInside(target, true);
 }
 
-// Reads the next entry and writes it. ARCHIVE_OK, ARCHIVE_EOF at the archive's end, or ARCHIVE_FATAL, which is logged.
-int ExtractEntry(struct archive* reader, struct archive* writer, const std::string& folder, LinkGuard* guard) {
+// Reads the next entry and writes it. ARCHIVE_OK, ARCHIVE_EOF at the archive's end, or
+// ARCHIVE_FATAL, which is logged.
+int ExtractEntry(struct archive* reader, struct archive* writer, const std::string& folder,
+                 LinkGuard* guard) {
   struct archive_entry* entry = nullptr;
   const int header = archive_read_next_header(reader, &entry);
   if (header == ARCHIVE_EOF) return ARCHIVE_EOF;
@@ -168,14 +178,17 @@ int ExtractEntry(struct archive* reader, struct archive* writer, const std::stri
     return ARCHIVE_FATAL;
   }
   MoveBelow(folder, entry, name);
-  // A folder that its owner may not change could not be removed again, by a rollback or the next upgrade.
-  if (archive_entry_filetype(entry) == AE_IFDIR) archive_entry_set_perm(entry, archive_entry_perm(entry) | S_IRWXU);
+  // A folder that its owner may not change could not be removed again, by a rollback or the next
+  // upgrade.
+  if (archive_entry_filetype(entry) == AE_IFDIR)
+    archive_entry_set_perm(entry, archive_entry_perm(entry) | S_IRWXU);
 
   int result = ARCHIVE_FAILED;
   if (MayWrite(guard, entry)) {
     result = archive_read_extract2(reader, entry, writer);
   } else {
-    archive_set_error(writer, EPERM, "the way to '%s' leads out of the destination", archive_entry_pathname(entry));
+    archive_set_error(writer, EPERM, "the way to '%s' leads out of the destination",
+                      archive_entry_pathname(entry));
   }
   if (result != ARCHIVE_OK) {
     LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", archive_error_string(writer));
@@ -210,11 +223,13 @@ int Extractor::Extract() {
   }
   archive_write_disk_set_options(writer.get(), kWriterOptions);
   if (Open(reader.get(), archive) != ARCHIVE_OK) {
-    LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive.c_str(), archive_error_string(reader.get()));
+    LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive.c_str(),
+              archive_error_string(reader.get()));
     return -1;
   }
 
-  // The writer replaces a link on the way of a hard link's target by a folder, so it gets a way without links.
+  // The writer replaces a link on the way of a hard link's target by a folder, so it gets a way
+  // without links.
   const std::string resolved = RealPath(destination.c_str());
   const std::string folder = resolved.empty() ? destination.c_str() : resolved;
   LinkGuard guard(folder);
@@ -230,7 +245,8 @@ int Extractor::Extract() {
 
     Notify_Adapter::GetInstance()->UpdateProgress(total, done);
     if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
-      LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n", archive_error_string(writer.get()));
+      LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n",
+                archive_error_string(writer.get()));
       return -1;
     }
   }
@@ -279,7 +295,8 @@ int Extractor::copy_data(struct archive* reader, struct archive* writer) {
       return -1;
     }
     if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
-      LOG_ERROR(kComponent, "archive_write_data_block failed: '%s'\n", archive_error_string(writer));
+      LOG_ERROR(kComponent, "archive_write_data_block failed: '%s'\n",
+                archive_error_string(writer));
       return -1;
     }
   }

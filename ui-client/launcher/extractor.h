@@ -6,34 +6,39 @@ struct archive;
 
 /// Unpacks the package archive into a folder, entry by entry, with progress through Notify_Adapter.
 ///
-/// Fill both fields, then call any operation, each as often as wanted: no archive stays open between calls. All formats
-/// and filters of libarchive are read. Every failure is logged under "extractor_debug" and reported as -1; what was
-/// written before it stays on disk, for the caller to roll back. Blocks its thread; touches no UI.
+/// Fill both fields, then call any operation, each as often as wanted: no archive stays open
+/// between calls. All formats and filters of libarchive are read. Every failure is logged under
+/// "extractor_debug" and reported as -1; what was written before it stays on disk, for the caller
+/// to roll back. Blocks its thread; touches no UI.
 class Extractor {
  public:
   ustring destination;  ///< the folder that entries are written below; it need not exist
   ustring archive;      ///< the archive file, UTF-8
 
-  /// Writes every entry below `destination`, replacing files that are there. Reports the label text once and then
-  /// (total, k) after the k-th entry, with the total of Count().
+  /// Writes every entry below `destination`, replacing files that are there. Reports the label text
+  /// once and then (total, k) after the k-th entry, with the total of Count().
   ///
-  /// Nothing is written outside `destination`: absolute names and the targets of hard links are put below it, names
-  /// with ".." are refused, and so is an entry whose way leads out of it through a symbolic link. Links themselves are
-  /// extracted as they are. Owners, times, ACLs and extended attributes are not restored; modes are, less the umask,
-  /// and with all rights of the owner on folders, so that the tree can be removed again. A zip without the directory at
-  /// its end is refused: it could be read from the front, but its modes and links would be lost.
+  /// Nothing is written outside `destination`: absolute names and the targets of hard links are put
+  /// below it, names with ".." are refused, and so is an entry whose way leads out of it through a
+  /// symbolic link. Links themselves are extracted as they are. Owners, times, ACLs and extended
+  /// attributes are not restored; modes are, less the umask, and with all rights of the owner on
+  /// folders, so that the tree can be removed again. A zip without the directory at its end is
+  /// refused: it could be read from the front, but its modes and links would be lost.
   ///
-  /// @return 0, or -1 for the first entry that cannot be read or written in full, a warning included
+  /// @return 0, or -1 for the first entry that cannot be read or written in full, a warning
+  /// included
   int Extract();
 
-  /// The number of entries up to the end of the archive or the first damage in it; -1 when it cannot be opened. Cheap
-  /// for formats with a directory at their end, a whole decompression for the others.
+  /// The number of entries up to the end of the archive or the first damage in it; -1 when it
+  /// cannot be opened. Cheap for formats with a directory at their end, a whole decompression for
+  /// the others.
   int Count();
 
-  /// Prints every entry's path to standard output, one a line, up to the end or the first damage. 0, or -1 when the
-  /// archive cannot be opened.
+  /// Prints every entry's path to standard output, one a line, up to the end or the first damage.
+  /// 0, or -1 when the archive cannot be opened.
   int List();
 
-  /// Copies the data of the reader's current entry to the writer's. 0 at the entry's end, -1 on failure.
+  /// Copies the data of the reader's current entry to the writer's. 0 at the entry's end, -1 on
+  /// failure.
   static int copy_data(struct archive* reader, struct archive* writer);
 };

@@ -25,12 +25,14 @@ const ustring kComponent = "launcher_debug";
 constexpr int kTurnProbes = 600;
 constexpr unsigned kTurnProbeMilliseconds = 100;
 
-// The turn of one launcher to work on the per-user installation. Copies of it at other paths are instances of their own
-// but share that; whoever comes second sees what the first has installed. Nobody waits longer than a minute, and where
-// the folder cannot be locked nobody waits at all: a client that starts is worth more than the order.
+// The turn of one launcher to work on the per-user installation. Copies of it at other paths are
+// instances of their own but share that; whoever comes second sees what the first has installed.
+// Nobody waits longer than a minute, and where the folder cannot be locked nobody waits at all: a
+// client that starts is worth more than the order.
 class Turn {
  public:
-  explicit Turn(const ustring& folder) : fd_(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+  explicit Turn(const ustring& folder)
+      : fd_(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
     for (int probe = 0; probe < kTurnProbes && fd_ >= 0; ++probe) {
       if (flock(fd_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) return;
       QThread::msleep(kTurnProbeMilliseconds);
@@ -109,8 +111,10 @@ Launcher::Launcher() : worker(new Worker), dialog(new ProcessingProgressDialog) 
   connect(worker, SIGNAL(sigServiceDone()), this, SLOT(LaunchDone()));
   connect(worker, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)));
   connect(worker, SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString)));
-  connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)));
-  connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateDialogText(QString)), this, SLOT(SetLabelText(QString)));
+  connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateProgress(int, int)), this,
+          SLOT(UpdateProgress(int, int)));
+  connect(Notify_Adapter::GetInstance(), SIGNAL(sigUpdateDialogText(QString)), this,
+          SLOT(SetLabelText(QString)));
 }
 
 Launcher::~Launcher() {
@@ -127,8 +131,9 @@ void Launcher::Start() {
 }
 
 bool Launcher::eventFilter(QObject* watched, QEvent* event) {
-  const bool closes = event->type() == QEvent::Close || (event->type() == QEvent::KeyPress &&
-                                                         static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel));
+  const bool closes = event->type() == QEvent::Close ||
+                      (event->type() == QEvent::KeyPress &&
+                       static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel));
   if (watched != dialog || !closes) return QObject::eventFilter(watched, event);
   event->ignore();
   return true;

@@ -17,16 +17,16 @@ class HandlerThread : public QThread {
 
 /// Runs the upgrade service, once per process, on a thread of its own.
 ///
-/// Created on the main thread and moved to its HandlerThread at once. Never touches the dialog: it reports through its
-/// signals, and the service through Notify_Adapter.
+/// Created on the main thread and moved to its HandlerThread at once. Never touches the dialog: it
+/// reports through its signals, and the service through Notify_Adapter.
 class Worker : public QObject {
   Q_OBJECT
 
  public:
   Worker();
 
-  /// Asks the thread to end and waits for it, however long the running upgrade still takes, then frees thread and
-  /// service: a running thread is never destroyed. Main thread.
+  /// Asks the thread to end and waits for it, however long the running upgrade still takes, then
+  /// frees thread and service: a running thread is never destroyed. Main thread.
   ~Worker() override;
 
   /// Starts the thread. Work that was asked for before waits in its queue.
@@ -49,8 +49,8 @@ class Worker : public QObject {
   void sigSetLabelText(const QString&);
 
  private slots:
-  /// One run: upgrades the per-user installation when it needs the package, cleans up, starts the client. Whatever
-  /// fails on the way is logged, and the client is started all the same.
+  /// One run: upgrades the per-user installation when it needs the package, cleans up, starts the
+  /// client. Whatever fails on the way is logged, and the client is started all the same.
   void HandleServicce();
 
  private:
@@ -58,11 +58,12 @@ class Worker : public QObject {
   Service* service;
 };
 
-/// Owns the worker and the progress dialog, and carries the worker's reports to the dialog. Main thread only.
+/// Owns the worker and the progress dialog, and carries the worker's reports to the dialog. Main
+/// thread only.
 ///
-/// Run(), then Start(), then the application's event loop, which the Launcher ends once the worker is done. Until then
-/// the dialog cannot be closed: neither Escape nor the window system's close button hides it, since hiding the last
-/// window would end the event loop under the running worker.
+/// Run(), then Start(), then the application's event loop, which the Launcher ends once the worker
+/// is done. Until then the dialog cannot be closed: neither Escape nor the window system's close
+/// button hides it, since hiding the last window would end the event loop under the running worker.
 class Launcher : public QObject {
   Q_OBJECT
 
@@ -88,8 +89,8 @@ class Launcher : public QObject {
   /// Hides the dialog, joins the worker's thread and ends the application's event loop.
   void LaunchDone();
 
-  /// Shows `steps` of `total` as a percentage, rounded down. A report with a `total` below 1 is ignored. `steps` stays
-  /// below 21,474,837, so that the product fits 32 bits.
+  /// Shows `steps` of `total` as a percentage, rounded down. A report with a `total` below 1 is
+  /// ignored. `steps` stays below 21,474,837, so that the product fits 32 bits.
   void UpdateProgress(int total, int steps);
 
   void SetLabelText(const QString&);

@@ -48,7 +48,8 @@ void ReadVersion(const ustring& path, VerInfo* version) {
   read(QStringLiteral("icon_overlay_version"), &version->icon_overlay_version);
 }
 
-// The build number of a bundle that was extracted to its end, 0 of any other: its version file comes last.
+// The build number of a bundle that was extracted to its end, 0 of any other: its version file
+// comes last.
 int CompleteBuild(const ustring& bundle) {
   if (!IsFileExist(bundle + "/Contents/MacOS/lumivo-drive-ui", false)) return 0;
   VerInfo version;
@@ -56,7 +57,8 @@ int CompleteBuild(const ustring& bundle) {
   return BuildNumber(version);
 }
 
-// Removes a bundle. It falls apart in one step first: a removal that is cut short must not leave what looks complete.
+// Removes a bundle. It falls apart in one step first: a removal that is cut short must not leave
+// what looks complete.
 void Discard(const ustring& bundle) {
   _FILE_INFO_tag info;
   if (FSStat(bundle, info, false) == 0 && info.exist && info.type == FILE_TYPE_FOLDER) {
@@ -95,7 +97,8 @@ int Service::ExtractPackage() {
     LOG_ERROR(kComponent, "failed to create folder: '%s'\n", extractor.destination.c_str());
     return -1;
   }
-  LOG_INFO(kComponent, "extract package: '%s' -> '%s'\n", extractor.archive.c_str(), extractor.destination.c_str());
+  LOG_INFO(kComponent, "extract package: '%s' -> '%s'\n", extractor.archive.c_str(),
+           extractor.destination.c_str());
   return extractor.Extract();
 }
 
@@ -118,7 +121,8 @@ void Service::LoadTargetVersion() {
            targetVersion.icon_overlay_version.c_str());
 }
 
-// On success `backup` and `index` name where the bundle lies now; both stay as they are when there was no bundle.
+// On success `backup` and `index` name where the bundle lies now; both stay as they are when there
+// was no bundle.
 bool Service::MoveAside(ustring* backup, int* index) {
   // One that cannot be looked at is there: an extraction over it would mix both.
   _FILE_INFO_tag info;
@@ -131,14 +135,16 @@ bool Service::MoveAside(ustring* backup, int* index) {
       *index = attempt;
       return true;
     }
-    LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s'\n", userAppPath.c_str(), path.c_str());
+    LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s'\n", userAppPath.c_str(),
+              path.c_str());
   }
-  LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s' at max retries, exiting\n", userAppPath.c_str(),
-            GetAppBackupDir(userAppPath, kMaxBackups - 1).c_str());
+  LOG_ERROR(kComponent, "failed to backup app from '%s' -> '%s' at max retries, exiting\n",
+            userAppPath.c_str(), GetAppBackupDir(userAppPath, kMaxBackups - 1).c_str());
   return false;
 }
 
-// After an interrupted run the bundle that was moved aside is a part only, and the last complete one another backup.
+// After an interrupted run the bundle that was moved aside is a part only, and the last complete
+// one another backup.
 ustring Service::BestBackup(const ustring& made) const {
   if (!made.empty() && CompleteBuild(made) > 0) return made;
   ustring best = made;
@@ -165,8 +171,8 @@ void Service::Rollback(const ustring& made) {
   Discard(userAppPath);
   if (FSRename(backup, userAppPath, false) == 0) return;
 
-  // What could not be removed can still be moved out of the way, in the end to the name that becomes free: a later
-  // upgrade removes the backups up to the first free name.
+  // What could not be removed can still be moved out of the way, in the end to the name that
+  // becomes free: a later upgrade removes the backups up to the first free name.
   ustring rest;
   int index = 0;
   if (!MoveAside(&rest, &index) || FSRename(backup, userAppPath, false) != 0) return;
@@ -183,8 +189,8 @@ int Service::PrepareUserEnv() {
     return -1;
   }
   LOG_INFO(kComponent, "user installation is ready, removing backup app\n");
-  // Lower names were not free: earlier runs that were interrupted left something there. The lowest goes last, so that
-  // what this run may leave is again below the first free name.
+  // Lower names were not free: earlier runs that were interrupted left something there. The lowest
+  // goes last, so that what this run may leave is again below the first free name.
   for (int i = index; i >= 0; --i) Discard(GetAppBackupDir(userAppPath, i));
   return 0;
 }
@@ -217,7 +223,8 @@ int Service::FSCopyPath(const ustring& src, const ustring& dst) {
 int Service::CopyFolder(const ustring& src, const ustring& dst) {
   DIR_HANDLE handle;
   if (FSOpenDir(src, 0, handle) < 0) {
-    LOG_WARNING(kComponent, "FSCopyPath: failed to create handle  for src '%s' failed\n", src.c_str());
+    LOG_WARNING(kComponent, "FSCopyPath: failed to create handle  for src '%s' failed\n",
+                src.c_str());
     return 0;
   }
   int result = 0;
@@ -227,7 +234,8 @@ int Service::CopyFolder(const ustring& src, const ustring& dst) {
     const ustring from = src + "/" + entry.name;
     const ustring to = dst + "/" + entry.name;
     if ((entry.type == FILE_TYPE_FOLDER ? FSCopyPath(from, to) : FSCopy(from, to, false)) < 0) {
-      LOG_ERROR(kComponent, "FSCopyPath: failed to copy from '%s' to '%s'\n", from.c_str(), to.c_str());
+      LOG_ERROR(kComponent, "FSCopyPath: failed to copy from '%s' to '%s'\n", from.c_str(),
+                to.c_str());
       result = -1;
     }
   }

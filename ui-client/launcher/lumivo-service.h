@@ -2,7 +2,8 @@
 
 #include "ustring.h"
 
-/// The version texts of a version file, group "Version". A key that is missing leaves its field as it was.
+/// The version texts of a version file, group "Version". A key that is missing leaves its field as
+/// it was.
 struct VerInfo {
   ustring major_version;         ///< told in the log only
   ustring minor_version;         ///< told in the log only
@@ -13,8 +14,8 @@ struct VerInfo {
 /// The build number that decides; 0 where the text is empty or begins with no number.
 int BuildNumber(const VerInfo& version);
 
-/// The places of a package that lies beside the launcher's executable, UTF-8. Nothing is looked up on disk. Needs the
-/// application object.
+/// The places of a package that lies beside the launcher's executable, UTF-8. Nothing is looked up
+/// on disk. Needs the application object.
 struct PackageInfo {
   PackageInfo();
 
@@ -25,12 +26,15 @@ struct PackageInfo {
   ustring confPath;         ///< the folder of settings
 };
 
-/// Brings the per-user installation up to date with the package of the launcher's own bundle, and starts the client.
+/// Brings the per-user installation up to date with the package of the launcher's own bundle, and
+/// starts the client.
 ///
-/// One object serves one run, on one thread: PreUpgrade(), IsNeedUpgrade(), HandlePackageUpgrade() only when that was
-/// true, then always RemoveAgedFolders() and PostUpgrade(). Failures are logged under "service_debug".
+/// One object serves one run, on one thread: PreUpgrade(), IsNeedUpgrade(), HandlePackageUpgrade()
+/// only when that was true, then always RemoveAgedFolders() and PostUpgrade(). Failures are logged
+/// under "service_debug".
 ///
-/// The bundle at the per-user path passes through these states; each step is one rename, or harmless when cut short:
+/// The bundle at the per-user path passes through these states; each step is one rename, or
+/// harmless when cut short:
 ///
 /// | state | on disk |
 /// |---|---|
@@ -39,10 +43,10 @@ struct PackageInfo {
 /// | extracting | the backup and a partial Lumivo.app |
 /// | new | the backup and the new Lumivo.app, then that alone |
 ///
-/// A failure goes back to the old state. After an interruption the next start finds the client missing, or, since the
-/// version file comes last in a package, at build 0, and extracts it anew; when that fails, the complete backup with
-/// the highest build number goes back, whichever run made it. A removal is never what leaves a part that looks
-/// complete.
+/// A failure goes back to the old state. After an interruption the next start finds the client
+/// missing, or, since the version file comes last in a package, at build 0, and extracts it anew;
+/// when that fails, the complete backup with the highest build number goes back, whichever run made
+/// it. A removal is never what leaves a part that looks complete.
 class Service {
  public:
   Service() = default;
@@ -56,8 +60,8 @@ class Service {
   /// Keeps a timeout for subclasses; the stop of the client waits by its own fixed schedule.
   virtual void SetTimeout(int value);
 
-  /// Stops the client and replaces the per-user installation. 0 ready; -1 failed, with the old one back in its place
-  /// where there was one.
+  /// Stops the client and replaces the per-user installation. 0 ready; -1 failed, with the old one
+  /// back in its place where there was one.
   virtual int HandlePackageUpgrade() = 0;
 
   /// Starts the installed client, whichever that is.
@@ -66,34 +70,39 @@ class Service {
   /// Loads both versions.
   virtual void PreUpgrade() = 0;
 
-  /// Whether the package is newer than the installed client, or that is missing. After PreUpgrade().
+  /// Whether the package is newer than the installed client, or that is missing. After
+  /// PreUpgrade().
   virtual bool IsNeedUpgrade() = 0;
 
-  /// Extracts the package archive into the per-user bundle, which is created with its parents. 0; negative on failure,
-  /// with whatever was extracted left in place.
+  /// Extracts the package archive into the per-user bundle, which is created with its parents. 0;
+  /// negative on failure, with whatever was extracted left in place.
   virtual int ExtractPackage();
 
-  /// Reads the per-user bundle's version file into `sourceVersion`; a missing file leaves it as it is.
+  /// Reads the per-user bundle's version file into `sourceVersion`; a missing file leaves it as it
+  /// is.
   virtual void LoadSourceVersion();
 
-  /// Reads the launcher bundle's version file into `targetVersion`; a missing file reads as one without keys.
+  /// Reads the launcher bundle's version file into `targetVersion`; a missing file reads as one
+  /// without keys.
   virtual void LoadTargetVersion();
 
-  /// Moves the per-user bundle aside to the first free backup name, extracts the package, and removes the backups up to
-  /// that name, or moves a backup back when the extraction fails: the one just made, or after an interrupted run the
-  /// complete one. 0; -1 on failure.
+  /// Moves the per-user bundle aside to the first free backup name, extracts the package, and
+  /// removes the backups up to that name, or moves a backup back when the extraction fails: the one
+  /// just made, or after an interrupted run the complete one. 0; -1 on failure.
   virtual int PrepareUserEnv();
 
   /// Removes the application folder of an older per-user layout, where there is one.
   void RemoveAgedFolders();
 
-  /// Copies a file, or a folder tree depth first: bytes only, no permissions. 0; -1 on failure, with what was copied
-  /// left in place. A source folder that cannot be read gives an empty folder and 0.
+  /// Copies a file, or a folder tree depth first: bytes only, no permissions. 0; -1 on failure,
+  /// with what was copied left in place. A source folder that cannot be read gives an empty folder
+  /// and 0.
   int FSCopyPath(const ustring& src, const ustring& dst);
 
   /// The user's home folder.
   static ustring GetUserInstallPath();
-  /// The bundle folder, two levels above the executable's folder, without "..". Needs the application object.
+  /// The bundle folder, two levels above the executable's folder, without "..". Needs the
+  /// application object.
   static ustring GetRootLumivoInstallPath();
   /// The bundle's resource folder. Needs the application object.
   static ustring GetRootLumivoResourceInstallPath();

@@ -24,15 +24,19 @@ constexpr int kRotateCount = 50;
 
 const ustring kComponent = "launcher_debug";
 
-// The toolkit looks for its plug-ins nowhere but in the bundle, so that the bundle runs the same on every machine.
+// The toolkit looks for its plug-ins nowhere but in the bundle, so that the bundle runs the same on
+// every machine.
 void SetPluginFolder(const char* program) {
-  const QString folder = QDir::cleanPath(QString::fromUtf8(program) + QStringLiteral("/../../Frameworks/plugins"));
+  const QString folder =
+      QDir::cleanPath(QString::fromUtf8(program) + QStringLiteral("/../../Frameworks/plugins"));
   QCoreApplication::setLibraryPaths(QStringList(folder));
   printf("lib path = '%s'\n", folder.toUtf8().constData());
-  fflush(stdout);  // the toolkit aborts when the folder lacks its platform plug-in, and the line tells where it looked
+  fflush(stdout);  // the toolkit aborts when the folder lacks its platform plug-in, and the line
+                   // tells where it looked
 }
 
-// Without a log folder the Logger keeps its initial state, and the launcher does its work all the same.
+// Without a log folder the Logger keeps its initial state, and the launcher does its work all the
+// same.
 void OpenLog() {
   const ustring levels = Service::GetRootLumivoInstallPath() + "/log/launcher.debug";
   const ustring folder = Service::GetUserLumivoInstallPath() + "/log";
@@ -41,7 +45,8 @@ void OpenLog() {
 }
 
 void InstallTranslation(QTranslator* translator) {
-  (void)translator->load(QStringLiteral(":/") + TavLocale::getDefaultLanguage() + QStringLiteral(".qm"));
+  (void)translator->load(QStringLiteral(":/") + TavLocale::getDefaultLanguage() +
+                         QStringLiteral(".qm"));
   if (!translator->isEmpty()) QCoreApplication::installTranslator(translator);
 }
 
@@ -67,8 +72,8 @@ int Run(QtSingleApplication* app) {
 int main(int argc, char** argv) {
   setlocale(LC_ALL, "");
   setenv("TZ", kOwnTimeZone, 0);
-  // Nothing may end an upgrade half-way, with the client away: neither a line that nobody reads, nor the session's end,
-  // nor a limit on the size of files, which makes the write fail anyhow.
+  // Nothing may end an upgrade half-way, with the client away: neither a line that nobody reads,
+  // nor the session's end, nor a limit on the size of files, which makes the write fail anyhow.
   for (const int number : {SIGPIPE, SIGHUP, SIGTERM, SIGXFSZ}) signal(number, SIG_IGN);
   Q_INIT_RESOURCE(texts);
   SetPluginFolder(argc > 0 && argv[0] != nullptr ? argv[0] : "");

@@ -32,7 +32,8 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
   setFixedWidth(kWidthPixels);
   setModal(true);
   setWindowModality(Qt::WindowModal);
-  setStyleSheet(QStringLiteral(" QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } "));
+  setStyleSheet(QStringLiteral(
+      " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } "));
 }
 
 ProcessingProgressDialog::~ProcessingProgressDialog() = default;

@@ -17,7 +17,8 @@ extern char** environ;
 namespace {
 
 constexpr char kRegistrationTool[] =
-    "/System/Library/Frameworks/CoreServices.framework/Frameworks/LaunchServices.framework/Support/lsregister";
+    "/System/Library/Frameworks/CoreServices.framework/Frameworks/LaunchServices.framework/Support/"
+    "lsregister";
 constexpr int kToolMissing = -2;  // as QProcess::execute says it
 
 // The text of the string that follows the key in a property list; empty when there is none.
@@ -29,14 +30,16 @@ QString PropertyOf(const QString& list, const QString& key) {
   bool isNext = false;
   while (!xml.atEnd()) {
     if (xml.readNext() != QXmlStreamReader::StartElement) continue;
-    if (isNext) return xml.name() == QLatin1String("string") ? xml.readElementText().trimmed() : QString();
+    if (isNext)
+      return xml.name() == QLatin1String("string") ? xml.readElementText().trimmed() : QString();
     isNext = xml.name() == QLatin1String("key") && xml.readElementText().trimmed() == key;
   }
   return QString();
 }
 
 QString ExecutableOf(const QString& bundle) {
-  QString name = PropertyOf(bundle + QStringLiteral("/Contents/Info.plist"), QStringLiteral("CFBundleExecutable"));
+  QString name = PropertyOf(bundle + QStringLiteral("/Contents/Info.plist"),
+                            QStringLiteral("CFBundleExecutable"));
   if (name.isEmpty()) name = QStringLiteral("lumivo-drive-ui");
   return bundle + QStringLiteral("/Contents/MacOS/") + name;
 }
@@ -69,8 +72,9 @@ std::vector<char*> EnvironmentForClient() {
   return variables;
 }
 
-// A session of its own, no terminal, no signal blocked or ignored: nothing that ends the launcher reaches the client.
-// The standard streams go nowhere, since whoever reads the launcher's would wait for the client's end too.
+// A session of its own, no terminal, no signal blocked or ignored: nothing that ends the launcher
+// reaches the client. The standard streams go nowhere, since whoever reads the launcher's would
+// wait for the client's end too.
 bool StartDetached(const QByteArray& program) {
   SpawnPlan plan;
   for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
@@ -82,7 +86,8 @@ bool StartDetached(const QByteArray& program) {
   sigfillset(&all);
   posix_spawnattr_setsigmask(&plan.attributes, &none);
   posix_spawnattr_setsigdefault(&plan.attributes, &all);
-  posix_spawnattr_setflags(&plan.attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+  posix_spawnattr_setflags(&plan.attributes,
+                           POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
 
   QByteArray name = program;
   std::array<char*, 2> arguments = {name.data(), nullptr};

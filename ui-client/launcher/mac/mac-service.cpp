@@ -23,12 +23,13 @@ constexpr int kDefaultTimeout = 10000;
 constexpr int kStopProbes = 5;
 constexpr unsigned kProbeSeconds = 1;
 
-// The one process that `text` names; 0 when it names none, a group of processes, or ourselves. A larger number must not
-// be cut down to a pid_t: it could come out as -1, which is every process.
+// The one process that `text` names; 0 when it names none, a group of processes, or ourselves. A
+// larger number must not be cut down to a pid_t: it could come out as -1, which is every process.
 pid_t ClientPid(const ustring& text) {
   errno = 0;
   const long pid = strtol(text.c_str(), nullptr, 10);
-  const bool names = errno == 0 && pid > 0 && pid <= std::numeric_limits<pid_t>::max() && pid != getpid();
+  const bool names =
+      errno == 0 && pid > 0 && pid <= std::numeric_limits<pid_t>::max() && pid != getpid();
   return names ? static_cast<pid_t>(pid) : 0;
 }
 
@@ -80,7 +81,8 @@ void MacService::StopService() {
 
   const pid_t pid = ClientPid(value);
   if (pid == 0) {
-    LOG_NOTE(kComponent, "pid file '%s' names no process to stop: '%s'\n", path.c_str(), value.c_str());
+    LOG_NOTE(kComponent, "pid file '%s' names no process to stop: '%s'\n", path.c_str(),
+             value.c_str());
     return;
   }
   Stop(pid);

@@ -2,18 +2,21 @@
 
 #include "lumivo-service.h"
 
-/// The upgrade of a per-user installation that is an application bundle: how its client is found, stopped and started.
+/// The upgrade of a per-user installation that is an application bundle: how its client is found,
+/// stopped and started.
 class MacService : public Service {
  public:
   /// Does nothing but find its paths below the user's home. Needs the application object.
   MacService();
   ~MacService() override;
 
-  /// The one instance of this process, made on the first call, from whichever thread. The Worker makes its own.
+  /// The one instance of this process, made on the first call, from whichever thread. The Worker
+  /// makes its own.
   static MacService* GetInstace();
 
-  /// Ends the client that the pid file names: SIGTERM, a look every second for up to 5 seconds, then SIGKILL. Only a
-  /// value that is the id of one other process is signalled; any other is logged. Blocks for 5 seconds at most.
+  /// Ends the client that the pid file names: SIGTERM, a look every second for up to 5 seconds,
+  /// then SIGKILL. Only a value that is the id of one other process is signalled; any other is
+  /// logged. Blocks for 5 seconds at most.
   void StopService() override;
 
   /// Stops the client where there is one, then PrepareUserEnv(), whose result it gives.
@@ -25,8 +28,8 @@ class MacService : public Service {
   /// Loads both versions, the package's first, and logs build and icon overlay of each.
   void PreUpgrade() override;
 
-  /// True when the package's build number is above the installed one's (a missing or other text counts as 0), or when
-  /// the client's executable is missing. Nothing is ever downgraded.
+  /// True when the package's build number is above the installed one's (a missing or other text
+  /// counts as 0), or when the client's executable is missing. Nothing is ever downgraded.
   bool IsNeedUpgrade() override;
 
   /// The same as LoadSourceVersion() and LoadTargetVersion().
@@ -36,7 +39,8 @@ class MacService : public Service {
   /// Whether there is a client executable in the per-user bundle, executable or not.
   bool PerUserBinPathExist();
 
-  /// Has the platform forget where it saw the per-user bundle before (a failure is logged only), then open it. 0 when
-  /// the platform accepted that, -1 otherwise. Waits for the first, not for the client.
+  /// Has the platform forget where it saw the per-user bundle before (a failure is logged only),
+  /// then open it. 0 when the platform accepted that, -1 otherwise. Waits for the first, not for
+  /// the client.
   static int LaunchPerUserBin();
 };
