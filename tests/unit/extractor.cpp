@@ -54,8 +54,9 @@ Entry File(const std::string& name, const std::string& content = "") {
 Entry Link(const std::string& name, const std::string& target) {
   return {name, AE_IFLNK, "", target, ""};
 }
-Entry HardLink(const std::string& name, const std::string& target) {
-  return {name, AE_IFREG, "", "", target};
+Entry HardLink(const std::string& name, const std::string& target,
+               const std::string& content = "") {
+  return {name, AE_IFREG, content, "", target};
 }
 
 // Writes the entries as they stand into an archive that the setter chooses the format of.
@@ -72,6 +73,11 @@ void WriteArchive(const ustring& path, const std::vector<Entry>& entries,
     archive_entry_set_filetype(header.get(), entry.type);
     archive_entry_set_perm(header.get(), 0700);
     archive_entry_set_size(header.get(), static_cast<la_int64_t>(entry.content.size()));
+    // Some formats have no hard links, but several names of one node.
+    const std::string& node = entry.hardLink.empty() ? entry.name : entry.hardLink;
+    const size_t number = std::hash<std::string>()(node) % 100000;
+    archive_entry_set_ino64(header.get(), static_cast<la_int64_t>(number));
+    archive_entry_set_nlink(header.get(), 2);
     if (!entry.link.empty()) archive_entry_set_symlink(header.get(), entry.link.c_str());
     if (!entry.hardLink.empty()) archive_entry_set_hardlink(header.get(), entry.hardLink.c_str());
     ASSERT_EQ(archive_write_header(writer.get(), header.get()), ARCHIVE_OK)
@@ -107,7 +113,9 @@ TEST_F(ExtractorTest, ReadsWhatWellKnownToolsWrite) {
   fs::create_directories(from + "/Contents/shut");
   WriteFile(from + "/Contents/MacOS/tool", "t");
   WriteFile(from + "/Contents/Größe", "");
+  fs::create_hard_link(from + "/Contents/MacOS/tool", from + "/Contents/MacOS/tool-1");
   fs::create_symlink("MacOS/tool", from + "/Contents/link");
+  ASSERT_EQ(link((from + "/Contents/link").c_str(), (from + "/Contents/link-1").c_str()), 0);
   fs::permissions(from + "/Contents/MacOS/tool", fs::perms(0755));
   fs::permissions(from + "/Contents/shut", fs::perms(0555));
 
@@ -157,6 +165,7 @@ TEST_F(ExtractorTest, NothingIsWrittenOutside) {
     std::vector<Entry> entries;
     int result;
     Tree left;
+    int (*setFormat)(archive*) = archive_write_set_format_pax_restricted;
   };
   const Row rows[] = {
       {"a name with two dots",
@@ -197,6 +206,19 @@ TEST_F(ExtractorTest, NothingIsWrittenOutside) {
         {"a/x", "file: x"},
         {"in2", "folder"},
         {"l", "link: ../in2"}}},
+      {"a hard link to a link that leads out",
+       {Link("out", "../in2/secret"), HardLink("again", "out")},
+       0,
+       {{"out", "link: ../in2/secret"}, {"again", "link: ../in2/secret"}}},
+      {"through such a hard link",
+       {Link("out", "../in2"), HardLink("again", "out"), File("again/evil", "e")},
+       -1,
+       {{"out", "link: ../in2"}, {"again", "link: ../in2"}}},
+      {"a hard link with bytes to a link that leads out",
+       {Link("out", "../in2/secret"), HardLink("again", "out", "e")},
+       -1,
+       {{"out", "link: ../in2/secret"}},
+       archive_write_set_format_cpio_newc},
       {"a file in the place of a link",
        {Link("f", "../in2/secret"), File("f", "mine")},
        0,
@@ -207,13 +229,37 @@ TEST_F(ExtractorTest, NothingIsWrittenOutside) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.what);
     fs::create_directory(in);
-    WriteArchive(extractor.archive, row.entries);
+    WriteArchive(extractor.archive, row.entries, row.setFormat);
     EXPECT_EQ(extractor.Extract(), row.result) << home.Log();
     EXPECT_EQ(TreeOf(in), row.left);
     fs::remove_all(in);
     EXPECT_EQ(TreeOf(arena), before);
     EXPECT_EQ(fs::status(neighbor).permissions(), mode);
   }
+}
+
+TEST_F(ExtractorTest, NothingButAFolderStandsForTheDestination) {
+  fs::create_directory(home.folder / "in");
+  for (const std::string name : {".", "./.", "/.", "./", "//"}) {
+    for (const unsigned type : {AE_IFREG, AE_IFLNK, AE_IFIFO}) {
+      SCOPED_TRACE(name + " as type " + std::to_string(type));
+      WriteArchive(extractor.archive, {{name, type, "", "elsewhere", ""}, File("x")},
+                   archive_write_set_format_cpio_newc);
+      EXPECT_EQ(extractor.Extract(), -1);
+      EXPECT_EQ(fs::symlink_status(home.folder / "in").type(), fs::file_type::directory);
+    }
+  }
+  // A library of `ar` begins with its table of symbols, whose name is a slash.
+  WriteFile(extractor.archive.c_str(),
+            "!<arch>\n"
+            "/               0           0     0     0       4         `\n"
+            "none");
+  EXPECT_EQ(extractor.Extract(), -1);
+  EXPECT_EQ(fs::symlink_status(home.folder / "in").type(), fs::file_type::directory);
+
+  WriteArchive(extractor.archive, {Folder("."), Folder("./."), File("./x")});
+  EXPECT_EQ(extractor.Extract(), 0) << home.Log();
+  EXPECT_EQ(TreeOf(home.folder / "in"), (Tree{{"x", "file: "}}));
 }
 
 TEST_F(ExtractorTest, ADestinationBehindALinkStaysBehindIt) {
@@ -228,6 +274,32 @@ TEST_F(ExtractorTest, ADestinationBehindALinkStaysBehindIt) {
       {"d/x", "file: x"}, {"h", "file: data"},   {"l", "link: d"},
   };
   EXPECT_EQ(TreeOf(home.folder / "real"), expected);
+}
+
+// Without its directory a zip can still be read from the front, but its modes and links are lost.
+TEST_F(ExtractorTest, AZipThatIsCutFailsWhereItEnds) {
+  WriteArchive(extractor.archive, {File("1", "one"), File("2", "two")},
+               archive_write_set_format_zip);
+  const std::string whole = ReadFile(extractor.archive.c_str());
+  const size_t directory = whole.find("PK\1\2");
+  struct Row {
+    const char* what;
+    size_t size;
+    const char* lastReport;
+    const char* logged;
+  };
+  const Row rows[] = {
+      {"in the last file", directory - 20, "1 of 2", "archive_read_extract2 failed: 'ZIP "},
+      {"in its directory", directory + 30, "2 of 2", "the directory at its end is missing"},
+      {"at its end", whole.size() - 1, "2 of 2", "the directory at its end is missing"},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.what);
+    WriteFile(extractor.archive.c_str(), whole.substr(0, row.size));
+    EXPECT_EQ(extractor.Extract(), -1);
+    EXPECT_EQ(reports.last().toStdString(), row.lastReport);
+    EXPECT_TRUE(home.Logged(row.logged)) << home.Log();
+  }
 }
 
 TEST_F(ExtractorTest, ListsTheEntriesAndRefusesWhatIsMissing) {

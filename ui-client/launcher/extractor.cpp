@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 #include <set>
 #include <string>
@@ -105,6 +106,13 @@ class LinkGuard {
   bool hasLinks_ = false;
 };
 
+// Why the last operation of either failed: by the first one's account, or else by the second's.
+const char* ErrorText(struct archive* first, struct archive* second = nullptr) {
+  const char* text = archive_error_string(first);
+  if (text == nullptr && second != nullptr) text = archive_error_string(second);
+  return text != nullptr ? text : "no reason given";
+}
+
 // A reader of `path`, opened; its error text tells what failed when the result is not ARCHIVE_OK.
 int Open(struct archive* reader, const ustring& path) {
   archive_read_support_filter_all(reader);
@@ -124,8 +132,7 @@ ArchiveReader OpenForHeaders(const Extractor& extractor) {
     return nullptr;
   }
   if (Open(reader.get(), extractor.archive) != ARCHIVE_OK) {
-    LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n",
-              archive_error_string(reader.get()));
+    LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
     return nullptr;
   }
   return reader;
@@ -144,6 +151,17 @@ bool HasItsDirectory(struct archive* opened, const ustring& path) {
          archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK;
 }
 
+// Whether the name is that of the folder which it is put below: "", ".", "/./".
+bool NamesTheFolderItself(const char* name) {
+  while (*name != '\0') {
+    const size_t length = strcspn(name, "/");
+    if (length > 1 || (length == 1 && *name != '.')) return false;
+    name += length;
+    name += strspn(name, "/");
+  }
+  return true;
+}
+
 // Puts the entry, and the target when it is a hard link, below the folder.
 void MoveBelow(const std::string& folder, struct archive_entry* entry, const char* name) {
   archive_entry_set_pathname(entry, (folder + "/" + name).c_str());
@@ -152,24 +170,46 @@ void MoveBelow(const std::string& folder, struct archive_entry* entry, const cha
   }
 }
 
-bool MayWrite(LinkGuard* guard, struct archive_entry* entry) {
-  const bool isFolder = archive_entry_filetype(entry) == AE_IFDIR;
-  if (!guard->StaysInside(archive_entry_pathname(entry), isFolder)) return false;
-  // Data that follows a hard link is written into its target, and some systems link to what a link
-  // leads to.
-  const char* target = archive_entry_hardlink(entry);
-  return target == nullptr || guard->StaysInside(target, true);
+bool IsFolder(struct archive_entry* entry) {
+  return archive_entry_filetype(entry) == AE_IFDIR && archive_entry_hardlink(entry) == nullptr;
 }
 
-// Reads the next entry and writes it. ARCHIVE_OK, ARCHIVE_EOF at the archive's end, or
-// ARCHIVE_FATAL, which is logged.
+// Whether everything that writing the entry would change lies within the destination.
+bool StaysInside(LinkGuard* guard, struct archive_entry* entry) {
+  if (!guard->StaysInside(archive_entry_pathname(entry), IsFolder(entry))) return false;
+  const char* target = archive_entry_hardlink(entry);
+  if (target == nullptr) return true;
+  // A hard link to a link is that link once more, wherever it leads. Data that comes with a hard
+  // link is written to where its target leads, and the mode is set there.
+  const bool hasData = archive_entry_size_is_set(entry) == 0 || archive_entry_size(entry) > 0;
+  return guard->StaysInside(target, hasData && archive_entry_filetype(entry) != AE_IFLNK);
+}
+
+// Writes the entry, which is the reader's current one and lies below the destination already.
+// Any result but ARCHIVE_OK is a failure, with a text at the writer or else at the reader.
+int WriteEntry(struct archive* reader, struct archive* writer, struct archive_entry* entry,
+               LinkGuard* guard) {
+  if (!StaysInside(guard, entry)) {
+    archive_set_error(writer, EPERM, "the way to '%s' leads out of the destination",
+                      archive_entry_pathname(entry));
+    return ARCHIVE_FAILED;
+  }
+  const int result = archive_read_extract2(reader, entry, writer);
+  if (result != ARCHIVE_OK) return result;
+  const bool symbolic = archive_entry_filetype(entry) == AE_IFLNK;
+  if (symbolic || archive_entry_hardlink(entry) != nullptr) guard->LinkWritten(symbolic);
+  return ARCHIVE_OK;
+}
+
+// Reads the next entry and writes it below the folder. ARCHIVE_OK, ARCHIVE_EOF at the archive's
+// end, or ARCHIVE_FATAL, which is logged.
 int ExtractEntry(struct archive* reader, struct archive* writer, const std::string& folder,
                  LinkGuard* guard) {
   struct archive_entry* entry = nullptr;
   const int header = archive_read_next_header(reader, &entry);
   if (header == ARCHIVE_EOF) return ARCHIVE_EOF;
   if (header != ARCHIVE_OK) {
-    LOG_ERROR(kComponent, "archive_read_next_header failed: '%s'\n", archive_error_string(reader));
+    LOG_ERROR(kComponent, "archive_read_next_header failed: '%s'\n", ErrorText(reader));
     return ARCHIVE_FATAL;
   }
   const char* name = archive_entry_pathname(entry);
@@ -177,26 +217,20 @@ int ExtractEntry(struct archive* reader, struct archive* writer, const std::stri
     LOG_ERROR(kComponent, "archive_entry_pathname failed");
     return ARCHIVE_FATAL;
   }
-  MoveBelow(folder, entry, name);
-  // A folder that its owner may not change could not be removed again, by a rollback or the next
-  // upgrade.
-  if (archive_entry_filetype(entry) == AE_IFDIR)
-    archive_entry_set_perm(entry, archive_entry_perm(entry) | S_IRWXU);
 
   int result = ARCHIVE_FAILED;
-  if (MayWrite(guard, entry)) {
-    result = archive_read_extract2(reader, entry, writer);
+  if (NamesTheFolderItself(name) && !IsFolder(entry)) {
+    archive_set_error(writer, EPERM, "'%s' would take the place of the destination", name);
   } else {
-    archive_set_error(writer, EPERM, "the way to '%s' leads out of the destination",
-                      archive_entry_pathname(entry));
+    MoveBelow(folder, entry, name);
+    // A folder that its owner may not change could not be removed again, by a rollback or the next
+    // upgrade.
+    if (IsFolder(entry)) archive_entry_set_perm(entry, archive_entry_perm(entry) | S_IRWXU);
+    result = WriteEntry(reader, writer, entry, guard);
   }
-  if (result != ARCHIVE_OK) {
-    LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", archive_error_string(writer));
-    return ARCHIVE_FATAL;
-  }
-  const bool symbolic = archive_entry_filetype(entry) == AE_IFLNK;
-  if (symbolic || archive_entry_hardlink(entry) != nullptr) guard->LinkWritten(symbolic);
-  return ARCHIVE_OK;
+  if (result == ARCHIVE_OK) return ARCHIVE_OK;
+  LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", ErrorText(writer, reader));
+  return ARCHIVE_FATAL;
 }
 
 }  // namespace
@@ -224,7 +258,7 @@ int Extractor::Extract() {
   archive_write_disk_set_options(writer.get(), kWriterOptions);
   if (Open(reader.get(), archive) != ARCHIVE_OK) {
     LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive.c_str(),
-              archive_error_string(reader.get()));
+              ErrorText(reader.get()));
     return -1;
   }
 
@@ -235,21 +269,21 @@ int Extractor::Extract() {
   LinkGuard guard(folder);
   for (int done = 1;; ++done) {
     const int result = ExtractEntry(reader.get(), writer.get(), folder, &guard);
-    if (result == ARCHIVE_EOF) return 0;
+    if (result == ARCHIVE_EOF) break;
     if (result != ARCHIVE_OK) return -1;
-    if (done == 1 && !HasItsDirectory(reader.get(), archive)) {
-      LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive.c_str(),
-                "the directory at its end is missing");
-      return -1;
-    }
 
     Notify_Adapter::GetInstance()->UpdateProgress(total, done);
     if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
-      LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n",
-                archive_error_string(writer.get()));
+      LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer.get()));
       return -1;
     }
   }
+  if (!HasItsDirectory(reader.get(), archive)) {
+    LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive.c_str(),
+              "the directory at its end is missing");
+    return -1;
+  }
+  return 0;
 }
 
 int Extractor::Count() {
@@ -291,12 +325,11 @@ int Extractor::copy_data(struct archive* reader, struct archive* writer) {
     const int result = archive_read_data_block(reader, &buffer, &size, &offset);
     if (result == ARCHIVE_EOF) return 0;
     if (result != ARCHIVE_OK) {
-      LOG_ERROR(kComponent, "archive_read_data_block failed: '%s'\n", archive_error_string(reader));
+      LOG_ERROR(kComponent, "archive_read_data_block failed: '%s'\n", ErrorText(reader));
       return -1;
     }
     if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
-      LOG_ERROR(kComponent, "archive_write_data_block failed: '%s'\n",
-                archive_error_string(writer));
+      LOG_ERROR(kComponent, "archive_write_data_block failed: '%s'\n", ErrorText(writer));
       return -1;
     }
   }
