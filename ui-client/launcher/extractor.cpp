@@ -13,6 +13,7 @@
 #include <string>
 
 #include "StrTable.h"
+#include "file/write-barrier.h"
 #include "notify-adapter.h"
 #include "text-ids.h"
 
@@ -233,6 +234,42 @@ int ExtractEntry(struct archive* reader, struct archive* writer, const std::stri
   return ARCHIVE_FATAL;
 }
 
+bool IsForcedToDisk(const std::string& folder) {
+  if (WriteBarrier(folder.c_str()) == 0) return true;
+  LOG_ERROR(kComponent, "failed to force '%s' to the disk: %s (%d)\n", folder.c_str(),
+            strerror(errno), errno);
+  return false;
+}
+
+// Extracts every entry, and reports each; 0 or -1.
+int ExtractEntries(struct archive* reader, struct archive* writer, int total,
+                   const Extractor& extractor) {
+  // The writer replaces a link on the way of a hard link's target by a folder, so it gets a way
+  // without links.
+  const std::string resolved = RealPath(extractor.destination.c_str());
+  const std::string folder = resolved.empty() ? extractor.destination.c_str() : resolved;
+  LinkGuard guard(folder);
+  for (int done = 1;; ++done) {
+    // Before the first one there may be no folder.
+    if (done > 1 && done == total && !IsForcedToDisk(folder)) return -1;
+    const int result = ExtractEntry(reader, writer, folder, &guard);
+    if (result == ARCHIVE_EOF) break;
+    if (result != ARCHIVE_OK) return -1;
+
+    Notify_Adapter::GetInstance()->UpdateProgress(total, done);
+    if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
+      LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer));
+      return -1;
+    }
+  }
+  if (!HasItsDirectory(reader, extractor.archive)) {
+    LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", extractor.archive.c_str(),
+              "the directory at its end is missing");
+    return -1;
+  }
+  return IsForcedToDisk(folder) ? 0 : -1;
+}
+
 }  // namespace
 
 int Extractor::Extract() {
@@ -261,29 +298,7 @@ int Extractor::Extract() {
               ErrorText(reader.get()));
     return -1;
   }
-
-  // The writer replaces a link on the way of a hard link's target by a folder, so it gets a way
-  // without links.
-  const std::string resolved = RealPath(destination.c_str());
-  const std::string folder = resolved.empty() ? destination.c_str() : resolved;
-  LinkGuard guard(folder);
-  for (int done = 1;; ++done) {
-    const int result = ExtractEntry(reader.get(), writer.get(), folder, &guard);
-    if (result == ARCHIVE_EOF) break;
-    if (result != ARCHIVE_OK) return -1;
-
-    Notify_Adapter::GetInstance()->UpdateProgress(total, done);
-    if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
-      LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer.get()));
-      return -1;
-    }
-  }
-  if (!HasItsDirectory(reader.get(), archive)) {
-    LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive.c_str(),
-              "the directory at its end is missing");
-    return -1;
-  }
-  return 0;
+  return ExtractEntries(reader.get(), writer.get(), total, *this);
 }
 
 int Extractor::Count() {

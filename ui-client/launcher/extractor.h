@@ -31,6 +31,10 @@ class Extractor {
   /// end is refused, once its end is reached: it could be read from the front, but its modes and
   /// links would be lost.
   ///
+  /// A power cut at any moment leaves either all entries or not the last one: the others are on the
+  /// disk before it is written. It is there too before the result is 0, so that what it replaces
+  /// can be removed then.
+  ///
   /// @return 0, or -1 for the first entry that cannot be read or written in full, a warning
   /// included
   int Extract();
