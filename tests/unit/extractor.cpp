@@ -299,6 +299,7 @@ TEST_F(ExtractorTest, AZipThatIsCutFailsWhereItEnds) {
     EXPECT_EQ(extractor.Extract(), -1);
     EXPECT_EQ(reports.last().toStdString(), row.lastReport);
     EXPECT_TRUE(home.Logged(row.logged)) << home.Log();
+    EXPECT_EQ(TreeOf(home.folder / "in"), (Tree{{"1", "file: one"}})) << "no end without the rest";
   }
 }
 

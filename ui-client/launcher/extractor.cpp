@@ -186,89 +186,124 @@ bool StaysInside(LinkGuard* guard, struct archive_entry* entry) {
   return guard->StaysInside(target, hasData && archive_entry_filetype(entry) != AE_IFLNK);
 }
 
-// Writes the entry, which is the reader's current one and lies below the destination already.
-// Any result but ARCHIVE_OK is a failure, with a text at the writer or else at the reader.
-int WriteEntry(struct archive* reader, struct archive* writer, struct archive_entry* entry,
-               LinkGuard* guard) {
-  if (!StaysInside(guard, entry)) {
-    archive_set_error(writer, EPERM, "the way to '%s' leads out of the destination",
-                      archive_entry_pathname(entry));
-    return ARCHIVE_FAILED;
-  }
-  const int result = archive_read_extract2(reader, entry, writer);
-  if (result != ARCHIVE_OK) return result;
-  const bool symbolic = archive_entry_filetype(entry) == AE_IFLNK;
-  if (symbolic || archive_entry_hardlink(entry) != nullptr) guard->LinkWritten(symbolic);
-  return ARCHIVE_OK;
+// Reads the data of the current entry to its end, for what is wrong with it. ARCHIVE_OK when
+// nothing is.
+int CheckData(struct archive* reader) {
+  const void* buffer = nullptr;
+  size_t size = 0;
+  la_int64_t offset = 0;
+  int result = ARCHIVE_OK;
+  while (result == ARCHIVE_OK) result = archive_read_data_block(reader, &buffer, &size, &offset);
+  return result == ARCHIVE_EOF ? ARCHIVE_OK : result;
 }
 
-// Reads the next entry and writes it below the folder. ARCHIVE_OK, ARCHIVE_EOF at the archive's
-// end, or ARCHIVE_FATAL, which is logged.
-int ExtractEntry(struct archive* reader, struct archive* writer, const std::string& folder,
-                 LinkGuard* guard) {
-  struct archive_entry* entry = nullptr;
-  const int header = archive_read_next_header(reader, &entry);
-  if (header == ARCHIVE_EOF) return ARCHIVE_EOF;
-  if (header != ARCHIVE_OK) {
-    LOG_ERROR(kComponent, "archive_read_next_header failed: '%s'\n", ErrorText(reader));
-    return ARCHIVE_FATAL;
+/// One way through an opened archive, from its first entry to its last.
+class Extraction {
+ public:
+  /// `total` is the number of entries; all else is the caller's, and outlives this.
+  Extraction(const Extractor& extractor, int total, struct archive* reader, struct archive* writer)
+      : archive_(extractor.archive),
+        total_(total),
+        reader_(reader),
+        writer_(writer),
+        folder_(FolderOf(extractor)),
+        guard_(folder_) {}
+
+  /// Extracts and reports every entry; 0, or -1, which is logged.
+  int Run() {
+    for (int done = 1;; ++done) {
+      const int result = ExtractNext(done);
+      if (result == ARCHIVE_EOF) break;
+      if (result != ARCHIVE_OK) return -1;
+
+      Notify_Adapter::GetInstance()->UpdateProgress(total_, done);
+      if (archive_write_finish_entry(writer_) != ARCHIVE_OK) {
+        LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer_));
+        return -1;
+      }
+    }
+    if (isCut_) {
+      LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive_.c_str(),
+                "the directory at its end is missing");
+      return -1;
+    }
+    return IsForcedToDisk() ? 0 : -1;
   }
-  const char* name = archive_entry_pathname(entry);
-  if (name == nullptr) {
-    LOG_ERROR(kComponent, "archive_entry_pathname failed");
+
+ private:
+  // The writer replaces a link on the way of a hard link's target by a folder, so it gets a way
+  // without links.
+  static std::string FolderOf(const Extractor& extractor) {
+    const std::string resolved = RealPath(extractor.destination.c_str());
+    return resolved.empty() ? extractor.destination.c_str() : resolved;
+  }
+
+  // Reads the entry `number` and writes it. ARCHIVE_OK, ARCHIVE_EOF at the archive's end, or
+  // ARCHIVE_FATAL, which is logged.
+  int ExtractNext(int number) {
+    struct archive_entry* entry = nullptr;
+    const int header = archive_read_next_header(reader_, &entry);
+    if (header == ARCHIVE_EOF) return ARCHIVE_EOF;
+    if (header != ARCHIVE_OK) {
+      LOG_ERROR(kComponent, "archive_read_next_header failed: '%s'\n", ErrorText(reader_));
+      return ARCHIVE_FATAL;
+    }
+    if (archive_entry_pathname(entry) == nullptr) {
+      LOG_ERROR(kComponent, "archive_entry_pathname failed");
+      return ARCHIVE_FATAL;
+    }
+    if (number == total_ && !MayEnd(number)) return ARCHIVE_FATAL;
+
+    if ((isCut_ ? CheckData(reader_) : Write(entry)) == ARCHIVE_OK) return ARCHIVE_OK;
+    LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", ErrorText(writer_, reader_));
     return ARCHIVE_FATAL;
   }
 
-  int result = ARCHIVE_FAILED;
-  if (NamesTheFolderItself(name) && !IsFolder(entry)) {
-    archive_set_error(writer, EPERM, "'%s' would take the place of the destination", name);
-  } else {
-    MoveBelow(folder, entry, name);
+  // The last entry may be what says that all the others are there, so that it must be neither
+  // before them on the disk nor written at all when the archive is going to be refused.
+  bool MayEnd(int number) {
+    isCut_ = !HasItsDirectory(reader_, archive_);
+    return number == 1 || isCut_ || IsForcedToDisk();
+  }
+
+  // Any result but ARCHIVE_OK is a failure, with a text at the writer or else at the reader.
+  int Write(struct archive_entry* entry) {
+    const char* name = archive_entry_pathname(entry);
+    if (NamesTheFolderItself(name) && !IsFolder(entry)) {
+      archive_set_error(writer_, EPERM, "'%s' would take the place of the destination", name);
+      return ARCHIVE_FAILED;
+    }
+    MoveBelow(folder_, entry, name);
+    if (!StaysInside(&guard_, entry)) {
+      archive_set_error(writer_, EPERM, "the way to '%s' leads out of the destination",
+                        archive_entry_pathname(entry));
+      return ARCHIVE_FAILED;
+    }
     // A folder that its owner may not change could not be removed again, by a rollback or the next
     // upgrade.
     if (IsFolder(entry)) archive_entry_set_perm(entry, archive_entry_perm(entry) | S_IRWXU);
-    result = WriteEntry(reader, writer, entry, guard);
+    const int result = archive_read_extract2(reader_, entry, writer_);
+    if (result != ARCHIVE_OK) return result;
+    const bool symbolic = archive_entry_filetype(entry) == AE_IFLNK;
+    if (symbolic || archive_entry_hardlink(entry) != nullptr) guard_.LinkWritten(symbolic);
+    return ARCHIVE_OK;
   }
-  if (result == ARCHIVE_OK) return ARCHIVE_OK;
-  LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", ErrorText(writer, reader));
-  return ARCHIVE_FATAL;
-}
 
-bool IsForcedToDisk(const std::string& folder) {
-  if (WriteBarrier(folder.c_str()) == 0) return true;
-  LOG_ERROR(kComponent, "failed to force '%s' to the disk: %s (%d)\n", folder.c_str(),
-            strerror(errno), errno);
-  return false;
-}
-
-// Extracts every entry, and reports each; 0 or -1.
-int ExtractEntries(struct archive* reader, struct archive* writer, int total,
-                   const Extractor& extractor) {
-  // The writer replaces a link on the way of a hard link's target by a folder, so it gets a way
-  // without links.
-  const std::string resolved = RealPath(extractor.destination.c_str());
-  const std::string folder = resolved.empty() ? extractor.destination.c_str() : resolved;
-  LinkGuard guard(folder);
-  for (int done = 1;; ++done) {
-    // Before the first one there may be no folder.
-    if (done > 1 && done == total && !IsForcedToDisk(folder)) return -1;
-    const int result = ExtractEntry(reader, writer, folder, &guard);
-    if (result == ARCHIVE_EOF) break;
-    if (result != ARCHIVE_OK) return -1;
-
-    Notify_Adapter::GetInstance()->UpdateProgress(total, done);
-    if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
-      LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer));
-      return -1;
-    }
+  bool IsForcedToDisk() const {
+    if (WriteBarrier(folder_.c_str()) == 0) return true;
+    LOG_ERROR(kComponent, "failed to force '%s' to the disk: %s (%d)\n", folder_.c_str(),
+              strerror(errno), errno);
+    return false;
   }
-  if (!HasItsDirectory(reader, extractor.archive)) {
-    LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", extractor.archive.c_str(),
-              "the directory at its end is missing");
-    return -1;
-  }
-  return IsForcedToDisk(folder) ? 0 : -1;
-}
+
+  const ustring& archive_;
+  const int total_;
+  struct archive* const reader_;
+  struct archive* const writer_;
+  const std::string folder_;
+  LinkGuard guard_;
+  bool isCut_ = false;  // a zip without the directory at its end
+};
 
 }  // namespace
 
@@ -298,7 +333,7 @@ int Extractor::Extract() {
               ErrorText(reader.get()));
     return -1;
   }
-  return ExtractEntries(reader.get(), writer.get(), total, *this);
+  return Extraction(*this, total, reader.get(), writer.get()).Run();
 }
 
 int Extractor::Count() {

@@ -28,8 +28,8 @@ class Extractor {
   /// entry that names the destination itself is a folder, or refused. Owners, times, ACLs and
   /// extended attributes are not restored; modes are, less the umask, and with all rights of the
   /// owner on folders, so that the tree can be removed again. A zip without the directory at its
-  /// end is refused, once its end is reached: it could be read from the front, but its modes and
-  /// links would be lost.
+  /// end is refused once its end is reached, and its last entry is not written: it could be read
+  /// from the front, but its modes and links would be lost.
   ///
   /// A power cut at any moment leaves either all entries or not the last one: the others are on the
   /// disk before it is written. It is there too before the result is 0, so that what it replaces
