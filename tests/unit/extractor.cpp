@@ -7,35 +7,16 @@
 #include <QObject>
 #include <QStringList>
 #include <clocale>
-#include <map>
 #include <memory>
 #include <vector>
 
 #include "notify-adapter.h"
 #include "support/test-home.h"
+#include "support/tree.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-// Everything below a folder by its path: "folder", "file: " and its bytes, or "link: " and its
-// text.
-using Tree = std::map<std::string, std::string>;
-
-Tree TreeOf(const std::string& root) {
-  Tree tree;
-  for (const auto& node : fs::recursive_directory_iterator(root)) {
-    std::string& what = tree[node.path().string().substr(root.size() + 1)];
-    if (node.is_symlink()) {
-      what = "link: " + fs::read_symlink(node.path()).string();
-    } else if (node.is_directory()) {
-      what = "folder";
-    } else {
-      what = "file: " + ReadFile(node.path().string());
-    }
-  }
-  return tree;
-}
 
 struct Entry {
   std::string name;
@@ -109,12 +90,11 @@ TEST_F(ExtractorTest, ReadsWhatWellKnownToolsWrite) {
   setlocale(LC_ALL, "C.UTF-8");
   const std::string from = home.folder / "from";
   const std::string in = home.folder / "in";
-  fs::create_directories(from + "/Contents/MacOS");
-  fs::create_directories(from + "/Contents/shut");
-  WriteFile(from + "/Contents/MacOS/tool", "t");
-  WriteFile(from + "/Contents/Größe", "");
+  MakeTree(from, {{"Contents/MacOS/tool", "file: t"},
+                  {"Contents/Größe", "file: "},
+                  {"Contents/link", "link: MacOS/tool"},
+                  {"Contents/shut", "folder"}});
   fs::create_hard_link(from + "/Contents/MacOS/tool", from + "/Contents/MacOS/tool-1");
-  fs::create_symlink("MacOS/tool", from + "/Contents/link");
   ASSERT_EQ(link((from + "/Contents/link").c_str(), (from + "/Contents/link-1").c_str()), 0);
   fs::permissions(from + "/Contents/MacOS/tool", fs::perms(0755));
   fs::permissions(from + "/Contents/shut", fs::perms(0555));
@@ -141,13 +121,8 @@ TEST_F(ExtractorTest, ReadsWhatWellKnownToolsWrite) {
 TEST_F(ExtractorTest, ReportsTheLabelOnceAndThenEveryEntry) {
   WriteArchive(extractor.archive, {Folder("a"), File("a/1", "x"), File("a/2")});
   ASSERT_EQ(extractor.Extract(), 0);
-  const QStringList expected = {
-      QStringLiteral("Lumivo Drive is initializing..."),
-      QStringLiteral("1 of 3"),
-      QStringLiteral("2 of 3"),
-      QStringLiteral("3 of 3"),
-  };
-  EXPECT_EQ(reports, expected);
+  EXPECT_EQ(reports.join(QStringLiteral(", ")).toStdString(),
+            "Lumivo Drive is initializing..., 1 of 3, 2 of 3, 3 of 3");
 }
 
 // Beside the destination lies a folder whose name begins like its own.
@@ -155,9 +130,7 @@ TEST_F(ExtractorTest, NothingIsWrittenOutside) {
   const std::string arena = home.folder / "arena";
   const std::string in = arena + "/in";
   const std::string neighbor = arena + "/in2";
-  fs::create_directories(neighbor + "/sub");
-  WriteFile(neighbor + "/secret", "s");
-  WriteFile(neighbor + "/sub/x", "x");
+  MakeTree(neighbor, {{"secret", "file: s"}, {"sub/x", "file: x"}});
   extractor.destination = in;
 
   struct Row {
@@ -263,8 +236,7 @@ TEST_F(ExtractorTest, NothingButAFolderStandsForTheDestination) {
 }
 
 TEST_F(ExtractorTest, ADestinationBehindALinkStaysBehindIt) {
-  fs::create_directory(home.folder / "real");
-  fs::create_symlink("real", home.folder / "in");
+  MakeTree(home.folder.path, {{"real", "folder"}, {"in", "link: real"}});
   WriteArchive(extractor.archive, {Folder("d"), File("d/f", "data"), HardLink("h", "d/f"),
                                    Link("l", "d"), File("l/x", "x"), File("l/s/y", "y")});
   EXPECT_EQ(extractor.Extract(), 0) << home.Log();
@@ -291,7 +263,6 @@ TEST_F(ExtractorTest, AZipThatIsCutFailsWhereItEnds) {
   const Row rows[] = {
       {"in the last file", directory - 20, "1 of 2", "archive_read_extract2 failed: 'ZIP "},
       {"in its directory", directory + 30, "2 of 2", "the directory at its end is missing"},
-      {"at its end", whole.size() - 1, "2 of 2", "the directory at its end is missing"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.what);
