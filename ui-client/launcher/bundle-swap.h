@@ -27,9 +27,10 @@
 ///
 /// Each state begins with one rename, or with one file that appears or goes. A power cut finds
 /// these steps in order where the file system keeps the order of names (APFS, HFS+, ext4, XFS,
-/// Btrfs). Where it does not, two write barriers keep the order that matters: the extraction has
-/// everything but the version file on the disk before it writes that one, and Commit() has that one
-/// on the disk before the old bundle goes.
+/// Btrfs). Where it does not, the two write barriers of the extraction keep the order that matters:
+/// everything but the version file is on the disk before that one is written, and that one before
+/// the old bundle goes. Nothing is forced in a rollback: what a power cut undoes of it, the next
+/// start does again.
 class BundleSwap {
  public:
   /// `bundle` is the application bundle to replace. Nothing is looked at yet.
