@@ -108,7 +108,7 @@
         <translation>Testování připojení…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Instalace Lumivo Drive</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Dnes</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Instalační program je připraven nainstalovat aplikaci Lumivo Drive do tohoto počítače.</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Tato složka se překrývá se složkou jiné úlohy synchronizace. Vyberte jinou složku.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Nepodařilo se načíst seznam složek na serveru. Zkontrolujte připojení k síti a zkuste to znovu.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Vyžaduje pozornost</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Certifikát serveru se změnil. Než budete pokračovat, zkontrolujte ho.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>Aktualizace se nezdařila. Zkuste to znovu později.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Certifikát serveru se nepodařilo ověřit.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Znovu synchronizovat tyto složky</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Disk tohoto počítače je plný. Chcete-li v synchronizaci pokračovat, uvolněte místo.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Používat černobílou ikonu v oznamovací oblasti</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Některá pole nejsou správně vyplněna. Opravte je a zkuste to znovu.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>Instalace byla přerušena. V počítači nebyly provedeny žádné změny.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@
         <translation>Odstranit</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>Zvolte složku na serveru a místní složku, se kterou se bude synchronizovat.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>Typ souboru</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Zvolte způsob nastavení</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Jazyk</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>Synchronizace „%1“ se zastavila. Podrobnosti zobrazíte otevřením aplikace Lumivo Drive.</translation>
     </message>
     <message>
@@ -352,7 +352,7 @@
         <translation>ZephLink ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
         <translation>Směr synchronizace neodpovídá oprávněním k této složce. Zvolte jiný směr.</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>únor</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
         <translation>Verze Lumivo Drive Server je příliš stará. Aktualizujte ji na serveru.</translation>
     </message>
     <message>
@@ -440,15 +440,15 @@
         <translation>Nastavení sítě</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Instalační program provádí zvolené změny.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Složky, jejichž zaškrtnutí zrušíte, budou z tohoto počítače odebrány. Na serveru zůstanou.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Disk serveru je plný. Chcete-li v synchronizaci pokračovat, uvolněte na něm místo.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Uložit a zkopírovat odkaz</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Zadejte adresu serveru a údaje svého účtu.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Začněme</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>O %1 str. zpět</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Chcete-li aplikaci Lumivo Drive nainstalovat později, spusťte instalační program znovu.</translation>
     </message>
     <message>
@@ -524,7 +524,7 @@
         <translation>Připojovat se přes ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Začněte kliknutím na tlačítko Nainstalovat. Své volby zkontrolujete nebo změníte kliknutím na tlačítko Zpět. Instalaci ukončíte kliknutím na tlačítko Zrušit.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Nahráno</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Váš přístup byl zrušen a synchronizované soubory byly z tohoto počítače odebrány. Obraťte se na správce.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Nahrávání…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Uplatňování nastavení…</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Ukončit</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Začněte kliknutím na tlačítko Opravit. Svou volbu zkontrolujete kliknutím na tlačítko Zpět. Instalaci ukončíte kliknutím na tlačítko Zrušit.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
         <translation>Do této složky nemůžete zapisovat. Vyberte jinou složku nebo změňte oprávnění k této složce.</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>Vlastní doba</translation>
     </message>
     <message>
-        <source>Watch the status</source>
+        <source>Check the sync status</source>
         <translation>Sledujte stav</translation>
     </message>
     <message>
@@ -700,7 +700,7 @@
         <translation>Soubor</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Následující aplikace používají soubory, které musí instalační program aktualizovat:</translation>
     </message>
     <message>
@@ -768,7 +768,7 @@
         <translation>Server požadavek nepřijal. Zkontrolujte zadané údaje a zkuste to znovu.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
         <translation>Verze Lumivo Drive Server je pro tento počítač příliš stará. Aktualizujte ji na serveru na verzi %1 nebo novější.</translation>
     </message>
     <message>
@@ -796,7 +796,7 @@
         <translation>Tuto složku používá úloha zálohování. Vyberte jinou složku.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Disk tohoto počítače je plný.</translation>
     </message>
     <message>
@@ -852,7 +852,7 @@
         <translation>Uzamčený soubor</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
         <translation>Neukončovat aplikace (počítač bude poté nutné restartovat)</translation>
     </message>
     <message>
@@ -880,7 +880,7 @@
         <translation>Obnovit</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Instalaci ukončíte kliknutím na tlačítko Dokončit.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Používané soubory</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>Instalace skončila předčasně</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>Soubory v obou složkách budou sloučeny.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>Tato složka na serveru se již s tímto počítačem synchronizuje.\nKvůli druhé úloze synchronizace zabere na disku dvojnásobek místa.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>Instalace byla přerušena</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Chyba</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Server blokuje adresu tohoto počítače. Požádejte správce, aby ji povolil.</translation>
     </message>
     <message>
@@ -968,11 +968,11 @@
         <translation>Vytisknout</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Vítá vás instalace Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
+        <source>Enter no more than %1 characters.</source>
         <translation>Maximální délka tohoto pole je %1.</translation>
     </message>
     <message>
@@ -1004,7 +1004,7 @@
         <translation>Vše, co vložíte do synchronizované složky, se objeví na serveru a ve vašich ostatních počítačích.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Instalační program může aplikaci Lumivo Drive změnit, opravit nebo odebrat. Pokračujte kliknutím na tlačítko Další.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Vyberte složku na serveru a složku v tomto počítači.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Zadejte adresu a port proxy serveru.</translation>
     </message>
     <message>
@@ -1060,7 +1060,7 @@
         <translation>Připraveno k opravě Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
+        <source>Skipped files</source>
         <translation>Odfiltrované soubory</translation>
     </message>
     <message>
@@ -1092,11 +1092,11 @@
         <translation>Synchronizace…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Aplikaci Lumivo Drive odeberete z tohoto počítače kliknutím na tlačítko Odebrat. Svou volbu zkontrolujete kliknutím na tlačítko Zpět. Instalaci ukončíte kliknutím na tlačítko Zrušit.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Znovu vás vítá instalace Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Nedostatek místa</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Načítání sdílených složek…</translation>
     </message>
     <message>
@@ -1140,7 +1140,7 @@
         <translation>Složka na serveru není připojena. Připojte ji tam a zkuste to znovu.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
+        <source>Mark skipped files with an icon</source>
         <translation>Označovat odfiltrované soubory ikonou</translation>
     </message>
     <message>
@@ -1152,7 +1152,7 @@
         <translation>Další</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>U souborů s rozdílným obsahem zůstanou zachovány obě verze.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>Verze tohoto souboru nelze zobrazit. Zkontrolujte svá oprávnění na serveru.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Odpověď serveru se nepodařilo rozpoznat. Aktualizujte Lumivo Drive a zkuste to znovu.</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>červenec</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Některé soubory, které je nutné aktualizovat, se používají.</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>Omezit přístup</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>Instalační program nainstaluje aplikaci Lumivo Drive do tohoto počítače. Pokračujte kliknutím na tlačítko Další, nebo instalaci ukončete kliknutím na tlačítko Zrušit.</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@
         <translation>Složku „%1“ se nepodařilo vytvořit. Zkontrolujte cestu k ní a svá oprávnění.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>Instalace byla ukončena kvůli chybě.\nV počítači nebyly provedeny žádné změny.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Filtr složek</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Certifikát serveru se nepodařilo ověřit. Zkontrolujte ho v nastavení připojení.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Soubor byl změněn současně na dvou místech. Obě verze zůstaly zachovány. Odstraňte tu, kterou nepotřebujete.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Certifikát serveru se změnil. Zkontrolujte ho v nastavení připojení.</translation>
     </message>
     <message>
@@ -1296,7 +1296,7 @@
         <translation>Zvolili jste odebrání aplikace Lumivo Drive z tohoto počítače.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
         <translation>Změny na síťovém disku nelze sledovat. Vyberte složku na místním disku.</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>Zobrazovat Lumivo Drive v místní nabídce</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
         <translation>Verze Lumivo Drive je příliš stará. Aktualizujte ji v tomto počítači.</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Odkazy nelze vytvářet, protože je vypnuta souborová služba. Požádejte správce, aby ji zapnul.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Ukončit aplikace a poté se je pokusit znovu spustit</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Nesynchronizovat tuto složku</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Certifikát serveru se změnil.\nPokračujte pouze v případě, že víte proč.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Právě teď</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Instalační program je připraven opravit aplikaci Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Tuto složku můžete pouze číst. Změny v tomto počítači se nebudou nahrávat.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>K této složce nemáte přístup. Požádejte správce o oprávnění.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Soubory se synchronizují. Mezitím můžete dál pracovat.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Certifikát serveru se nepodařilo ověřit.\nPokračujte pouze v případě, že této síti důvěřujete.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Zbývá synchronizovat souborů: %1</translation>
     </message>
     <message>
@@ -1732,7 +1732,7 @@
         <translation>Vaše synchronizovaná složka</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
         <translation>Certifikát serveru se nepodařilo ověřit. Požádejte správce o platný certifikát.</translation>
     </message>
     <message>
@@ -1776,7 +1776,7 @@
         <translation>Ikony u místních souborů</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Není k dispozici žádná akce</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Vypnuto</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
         <translation>Server ještě indexuje složku „%1“. Potom ji bude možné synchronizovat.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Pokud byl soubor změněn na dvou místech</translation>
     </message>
     <message>
@@ -1816,7 +1816,7 @@
         <translation>Synchronizujte domovskou složku s doporučeným nastavením.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Načítání složek…</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Připraveno k instalaci Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Až budete chtít aplikaci Lumivo Drive nainstalovat, spusťte instalační program znovu.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Stahování…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
         <translation>Nový jazyk se použije po příštím spuštění Lumivo Drive.</translation>
     </message>
     <message>
@@ -1892,7 +1892,7 @@
         <translation>Rychlé nastavení vyhovuje většině uživatelů. Vše můžete později změnit.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Disk serveru je plný.</translation>
     </message>
     <message>

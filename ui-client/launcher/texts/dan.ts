@@ -108,7 +108,7 @@
         <translation>Tester forbindelsen…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Installation af Lumivo Drive</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>I dag</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Installationsprogrammet er klar til at installere Lumivo Drive på denne computer.</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Denne mappe overlapper med mappen for en anden synkroniseringsopgave. Vælg en anden mappe.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Mapperne på din server kunne ikke vises. Kontroller netværksforbindelsen, og prøv igen.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Kræver opmærksomhed</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Certifikatet for din server er ændret. Kontroller det, før du fortsætter.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>Opdateringen mislykkedes. Prøv igen senere.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Certifikatet for din server kunne ikke bekræftes.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Synkroniser disse mapper igen</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Disken på denne computer er fuld. Frigør plads for at fortsætte synkroniseringen.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Brug et sort-hvidt ikon i meddelelsesområdet</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Nogle felter er ikke udfyldt korrekt. Ret dem, og prøv igen.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>Installationen blev afbrudt. Din computer er ikke blevet ændret.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@
         <translation>Slet</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>Vælg en mappe på din server og den lokale mappe, som den synkroniseres med.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>Filtype</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Vælg konfigurationsmetode</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Sprog</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>Synkroniseringen af ”%1” er stoppet. Åbn Lumivo Drive for at se detaljer.</translation>
     </message>
     <message>
@@ -352,7 +352,7 @@
         <translation>ZephLink-ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
         <translation>Synkroniseringsretningen passer ikke til rettighederne for denne mappe. Vælg en anden retning.</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>februar</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
         <translation>Lumivo Drive Server er for gammel. Opdater den på din server.</translation>
     </message>
     <message>
@@ -440,15 +440,15 @@
         <translation>Netværksindstillinger</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Installationsprogrammet gennemfører dine valg.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Mapper, som du fravælger her, fjernes fra denne computer. De bliver på din server.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Disken på din server er fuld. Frigør plads på den for at fortsætte synkroniseringen.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Gem og kopier link</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Indtast adressen på din server og dine kontooplysninger.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Lad os komme i gang</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>Forrige %1 sider</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Kør installationsprogrammet igen, hvis du vil installere Lumivo Drive senere.</translation>
     </message>
     <message>
@@ -524,7 +524,7 @@
         <translation>Opret forbindelse via ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Klik på Installer for at begynde. Klik på Tilbage for at gennemse eller ændre dine valg. Klik på Annuller for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Uploadet</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Din adgang er blevet inddraget, og de synkroniserede filer er fjernet fra denne computer. Kontakt din administrator.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Uploader…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Anvender indstillingerne…</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Afslut</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klik på Reparer for at begynde. Klik på Tilbage for at gennemse dit valg. Klik på Annuller for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
         <translation>Du kan ikke skrive til denne mappe. Vælg en anden mappe, eller ændr dens rettigheder.</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>Brugerdefineret periode</translation>
     </message>
     <message>
-        <source>Watch the status</source>
+        <source>Check the sync status</source>
         <translation>Følg med i status</translation>
     </message>
     <message>
@@ -700,7 +700,7 @@
         <translation>Fil</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Følgende programmer bruger filer, som installationsprogrammet skal opdatere:</translation>
     </message>
     <message>
@@ -768,7 +768,7 @@
         <translation>Serveren accepterede ikke anmodningen. Kontroller det, du har indtastet, og prøv igen.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
         <translation>Lumivo Drive Server er for gammel til denne computer. Opdater den på din server til version %1 eller nyere.</translation>
     </message>
     <message>
@@ -796,7 +796,7 @@
         <translation>Denne mappe bruges af en sikkerhedskopieringsopgave. Vælg en anden mappe.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Disken på denne computer er fuld.</translation>
     </message>
     <message>
@@ -852,7 +852,7 @@
         <translation>Låst fil</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
         <translation>Luk ikke programmerne (computeren skal genstartes bagefter)</translation>
     </message>
     <message>
@@ -880,7 +880,7 @@
         <translation>Genoptag</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Klik på Udfør for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Filer i brug</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>Installationen sluttede for tidligt</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>Filerne i begge mapper flettes.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>Denne mappe på din server synkroniseres allerede med denne computer.\nEndnu en synkroniseringsopgave for mappen optager dobbelt så meget diskplads.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>Installationen blev afbrudt</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Fejl</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Din server blokerer adressen på denne computer. Bed din administrator om at tillade den.</translation>
     </message>
     <message>
@@ -968,11 +968,11 @@
         <translation>Udskriv</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Velkommen til installationen af Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
+        <source>Enter no more than %1 characters.</source>
         <translation>Den maksimale længde for dette felt er %1.</translation>
     </message>
     <message>
@@ -1004,7 +1004,7 @@
         <translation>Alt, hvad du lægger i din synkroniseringsmappe, dukker op på din server og på dine andre computere.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Installationsprogrammet kan ændre, reparere eller fjerne Lumivo Drive. Klik på Næste for at fortsætte.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Vælg en mappe på din server og en mappe på denne computer.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Indtast adressen og porten for proxyserveren.</translation>
     </message>
     <message>
@@ -1060,7 +1060,7 @@
         <translation>Klar til at reparere Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
+        <source>Skipped files</source>
         <translation>Filtrerede filer</translation>
     </message>
     <message>
@@ -1092,11 +1092,11 @@
         <translation>Synkroniserer…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klik på Fjern for at fjerne Lumivo Drive fra denne computer. Klik på Tilbage for at gennemse dit valg. Klik på Annuller for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Velkommen tilbage til installationen af Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Ikke mere plads</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Indlæser de delte mapper…</translation>
     </message>
     <message>
@@ -1140,7 +1140,7 @@
         <translation>Mappen på din server er ikke monteret. Monter den dér, og prøv igen.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
+        <source>Mark skipped files with an icon</source>
         <translation>Marker filtrerede filer med et ikon</translation>
     </message>
     <message>
@@ -1152,7 +1152,7 @@
         <translation>Næste</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>Filer med forskelligt indhold bevares i begge versioner.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>Versionerne af denne fil kan ikke vises. Kontroller dine rettigheder på serveren.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Svaret fra serveren kunne ikke forstås. Opdater Lumivo Drive, og prøv igen.</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>juli</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Nogle filer, der skal opdateres, er i brug.</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>Begræns adgang</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>Installationsprogrammet installerer Lumivo Drive på denne computer. Klik på Næste for at fortsætte eller på Annuller for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@
         <translation>Mappen ”%1” kunne ikke oprettes. Kontroller stien og dine rettigheder.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>Installationen sluttede på grund af en fejl.\nDin computer er ikke blevet ændret.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Mappefilter</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Certifikatet for din server kunne ikke bekræftes. Kontroller det i forbindelsesindstillingerne.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Filen blev ændret to steder på samme tid. Begge versioner er bevaret. Slet den, du ikke har brug for.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Certifikatet for din server er ændret. Kontroller det i forbindelsesindstillingerne.</translation>
     </message>
     <message>
@@ -1296,7 +1296,7 @@
         <translation>Du har valgt at fjerne Lumivo Drive fra denne computer.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
         <translation>Ændringer på et netværksdrev kan ikke overvåges. Vælg en mappe på en lokal disk.</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>Vis Lumivo Drive i genvejsmenuen</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
         <translation>Lumivo Drive er for gammel. Opdater programmet på denne computer.</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Der kan ikke oprettes links, fordi filtjenesten er slået fra. Bed din administrator om at slå den til.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Luk programmerne, og forsøg at starte dem igen bagefter</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Synkroniser ikke denne mappe</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Certifikatet for din server er ændret.\nFortsæt kun, hvis du ved hvorfor.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Lige nu</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Installationsprogrammet er klar til at reparere Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Du har kun læseadgang til denne mappe. Ændringer på denne computer uploades ikke.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Du har ikke adgang til denne mappe. Bed din administrator om tilladelse.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Dine filer synkroniseres. Du kan arbejde videre imens.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Certifikatet for din server kunne ikke bekræftes.\nFortsæt kun, hvis du har tillid til dette netværk.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Filer, der mangler synkronisering: %1</translation>
     </message>
     <message>
@@ -1732,7 +1732,7 @@
         <translation>Din synkroniseringsmappe</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
         <translation>Certifikatet for din server kunne ikke bekræftes. Bed din administrator om et gyldigt certifikat.</translation>
     </message>
     <message>
@@ -1776,7 +1776,7 @@
         <translation>Ikoner på lokale filer</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Ingen tilgængelig handling</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Deaktiveret</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
         <translation>Din server er stadig ved at indeksere ”%1”. Mappen kan synkroniseres bagefter.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Når en fil er ændret to steder</translation>
     </message>
     <message>
@@ -1816,7 +1816,7 @@
         <translation>Synkroniser din hjemmemappe med de anbefalede indstillinger.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Indlæser mapperne…</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Klar til at installere Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Kør installationsprogrammet igen, når du vil installere Lumivo Drive.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Downloader…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
         <translation>Det nye sprog bruges, næste gang Lumivo Drive startes.</translation>
     </message>
     <message>
@@ -1892,7 +1892,7 @@
         <translation>Hurtig konfiguration passer til de fleste brugere. Du kan ændre alt senere.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Disken på din server er fuld.</translation>
     </message>
     <message>

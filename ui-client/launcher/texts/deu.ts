@@ -108,7 +108,7 @@
         <translation>Verbindung wird getestet&#xa0;…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Setup von Lumivo Drive</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Heute</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Das Installationsprogramm ist bereit, Lumivo Drive auf diesem Computer zu installieren.</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Dieser Ordner überschneidet sich mit dem Ordner einer anderen Synchronisierungsaufgabe. Wählen Sie einen anderen Ordner aus.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Die Ordner Ihres Servers konnten nicht aufgelistet werden. Prüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Eingreifen erforderlich</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Das Zertifikat Ihres Servers hat sich geändert. Prüfen Sie es, bevor Sie fortfahren.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>Das Update ist fehlgeschlagen. Versuchen Sie es später erneut.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Das Zertifikat Ihres Servers konnte nicht überprüft werden.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Diese Ordner wieder synchronisieren</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Der Datenträger dieses Computers ist voll. Geben Sie Speicherplatz frei, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Schwarz-weißes Symbol im Infobereich verwenden</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Einige Felder sind nicht richtig ausgefüllt. Korrigieren Sie sie und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>Das Setup wurde unterbrochen. An Ihrem Computer wurden keine Änderungen vorgenommen.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@
         <translation>Löschen</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>Wählen Sie einen Ordner auf Ihrem Server und den lokalen Ordner aus, mit dem er synchronisiert wird.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>Dateityp</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Wählen Sie die Art der Einrichtung aus</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>Die Synchronisierung von „%1“ wurde gestoppt. Öffnen Sie Lumivo Drive, um Details anzuzeigen.</translation>
     </message>
     <message>
@@ -352,7 +352,7 @@
         <translation>ZephLink-ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
         <translation>Die Synchronisierungsrichtung passt nicht zu den Berechtigungen dieses Ordners. Wählen Sie eine andere Richtung.</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>Februar</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
         <translation>Lumivo Drive Server ist zu alt. Aktualisieren Sie die Anwendung auf Ihrem Server.</translation>
     </message>
     <message>
@@ -440,15 +440,15 @@
         <translation>Netzwerkeinstellungen</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Das Installationsprogramm wendet Ihre Auswahl an.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Ordner, die Sie hier abwählen, werden von diesem Computer entfernt. Auf Ihrem Server bleiben sie erhalten.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Der Datenträger Ihres Servers ist voll. Geben Sie dort Speicherplatz frei, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Speichern und Link kopieren</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Geben Sie die Adresse Ihres Servers und Ihr Konto ein.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Los geht’s</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>Vorherige %1 Seiten</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Um Lumivo Drive später zu installieren, starten Sie das Installationsprogramm erneut.</translation>
     </message>
     <message>
@@ -524,7 +524,7 @@
         <translation>Verbindung über ZephLink herstellen</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Klicken Sie auf „Installieren“, um zu beginnen. Klicken Sie auf „Zurück“, um Ihre Auswahl zu prüfen oder zu ändern. Klicken Sie auf „Abbrechen“, um das Setup zu beenden.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Hochgeladen</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Ihr Zugriff wurde widerrufen und die synchronisierten Dateien wurden von diesem Computer entfernt. Wenden Sie sich an Ihren Administrator.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Wird hochgeladen&#xa0;…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Einstellungen werden angewendet&#xa0;…</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Beenden</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klicken Sie auf „Reparieren“, um zu beginnen. Klicken Sie auf „Zurück“, um Ihre Auswahl zu prüfen. Klicken Sie auf „Abbrechen“, um das Setup zu beenden.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
         <translation>Sie haben in diesem Ordner keine Schreibrechte. Wählen Sie einen anderen Ordner aus oder ändern Sie seine Berechtigungen.</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>Benutzerdefinierte Dauer</translation>
     </message>
     <message>
-        <source>Watch the status</source>
+        <source>Check the sync status</source>
         <translation>Den Status im Blick</translation>
     </message>
     <message>
@@ -700,7 +700,7 @@
         <translation>Datei</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Die folgenden Anwendungen verwenden Dateien, die das Installationsprogramm aktualisieren muss:</translation>
     </message>
     <message>
@@ -768,7 +768,7 @@
         <translation>Der Server hat die Anfrage nicht angenommen. Prüfen Sie Ihre Eingaben und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
         <translation>Lumivo Drive Server ist zu alt für diesen Computer. Aktualisieren Sie die Anwendung auf Ihrem Server auf Version %1 oder höher.</translation>
     </message>
     <message>
@@ -796,7 +796,7 @@
         <translation>Dieser Ordner wird von einer Sicherungsaufgabe verwendet. Wählen Sie einen anderen Ordner aus.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Der Datenträger dieses Computers ist voll.</translation>
     </message>
     <message>
@@ -852,7 +852,7 @@
         <translation>Gesperrte Datei</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
         <translation>Anwendungen nicht schließen (der Computer muss danach neu gestartet werden)</translation>
     </message>
     <message>
@@ -880,7 +880,7 @@
         <translation>Fortsetzen</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Klicken Sie auf „Fertigstellen“, um das Setup zu beenden.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Dateien werden verwendet</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>Das Setup wurde vorzeitig beendet</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>Die Dateien in beiden Ordnern werden zusammengeführt.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>Dieser Ordner auf Ihrem Server wird bereits mit diesem Computer synchronisiert.\nEine zweite Synchronisierungsaufgabe dafür belegt doppelt so viel Speicherplatz.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>Das Setup wurde unterbrochen</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Fehler</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Ihr Server blockiert die Adresse dieses Computers. Bitten Sie Ihren Administrator, sie zuzulassen.</translation>
     </message>
     <message>
@@ -968,11 +968,11 @@
         <translation>Drucken</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Willkommen beim Setup von Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
+        <source>Enter no more than %1 characters.</source>
         <translation>Die maximale Länge dieses Felds beträgt %1.</translation>
     </message>
     <message>
@@ -1004,7 +1004,7 @@
         <translation>Alles, was Sie in Ihren Synchronisierungsordner legen, erscheint auf Ihrem Server und auf Ihren anderen Computern.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Das Installationsprogramm kann Lumivo Drive ändern, reparieren oder entfernen. Klicken Sie auf „Weiter“, um fortzufahren.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Wählen Sie einen Ordner auf Ihrem Server und einen Ordner auf diesem Computer aus.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Geben Sie die Adresse und den Port des Proxyservers ein.</translation>
     </message>
     <message>
@@ -1060,7 +1060,7 @@
         <translation>Bereit zum Reparieren von Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
+        <source>Skipped files</source>
         <translation>Gefilterte Dateien</translation>
     </message>
     <message>
@@ -1092,11 +1092,11 @@
         <translation>Wird synchronisiert&#xa0;…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klicken Sie auf „Entfernen“, um Lumivo Drive von diesem Computer zu entfernen. Klicken Sie auf „Zurück“, um Ihre Auswahl zu prüfen. Klicken Sie auf „Abbrechen“, um das Setup zu beenden.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Willkommen zurück beim Setup von Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Kein Speicherplatz mehr</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Freigegebene Ordner werden geladen&#xa0;…</translation>
     </message>
     <message>
@@ -1140,7 +1140,7 @@
         <translation>Der Ordner auf Ihrem Server ist nicht eingehängt. Hängen Sie ihn dort ein und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
+        <source>Mark skipped files with an icon</source>
         <translation>Gefilterte Dateien mit einem Symbol kennzeichnen</translation>
     </message>
     <message>
@@ -1152,7 +1152,7 @@
         <translation>Weiter</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>Bei Dateien mit unterschiedlichem Inhalt bleiben beide Versionen erhalten.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>Die Versionen dieser Datei können nicht aufgelistet werden. Prüfen Sie Ihre Berechtigungen auf dem Server.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Die Antwort des Servers konnte nicht ausgewertet werden. Aktualisieren Sie Lumivo Drive und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>Juli</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Einige Dateien, die aktualisiert werden müssen, werden gerade verwendet.</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>Zugriff einschränken</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>Das Installationsprogramm installiert Lumivo Drive auf diesem Computer. Klicken Sie auf „Weiter“, um fortzufahren, oder auf „Abbrechen“, um das Setup zu beenden.</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@
         <translation>Der Ordner „%1“ konnte nicht erstellt werden. Prüfen Sie den Pfad und Ihre Berechtigungen.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>Das Setup wurde aufgrund eines Fehlers beendet.\nAn Ihrem Computer wurden keine Änderungen vorgenommen.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Ordnerfilter</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Das Zertifikat Ihres Servers konnte nicht überprüft werden. Prüfen Sie es in den Verbindungseinstellungen.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Die Datei wurde gleichzeitig an zwei Orten geändert. Beide Versionen sind erhalten geblieben. Löschen Sie die Version, die Sie nicht benötigen.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Das Zertifikat Ihres Servers hat sich geändert. Prüfen Sie es in den Verbindungseinstellungen.</translation>
     </message>
     <message>
@@ -1296,7 +1296,7 @@
         <translation>Sie möchten Lumivo Drive von diesem Computer entfernen.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
         <translation>Änderungen auf einem Netzlaufwerk können nicht überwacht werden. Wählen Sie einen Ordner auf einem lokalen Datenträger aus.</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>Lumivo Drive im Kontextmenü anzeigen</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
         <translation>Lumivo Drive ist zu alt. Aktualisieren Sie die Anwendung auf diesem Computer.</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Links können nicht erstellt werden, da der Dateidienst deaktiviert ist. Bitten Sie Ihren Administrator, ihn zu aktivieren.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Anwendungen schließen und danach versuchen, sie wieder zu starten</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Diesen Ordner nicht synchronisieren</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Das Zertifikat Ihres Servers hat sich geändert.\nFahren Sie nur fort, wenn Sie den Grund kennen.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Gerade eben</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Das Installationsprogramm ist bereit, Lumivo Drive zu reparieren.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Sie können diesen Ordner nur lesen. Änderungen auf diesem Computer werden nicht hochgeladen.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Sie haben keinen Zugriff auf diesen Ordner. Bitten Sie Ihren Administrator um die Berechtigung.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Ihre Dateien werden synchronisiert. Sie können währenddessen weiterarbeiten.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Das Zertifikat Ihres Servers konnte nicht überprüft werden.\nFahren Sie nur fort, wenn Sie diesem Netzwerk vertrauen.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Noch zu synchronisierende Dateien: %1</translation>
     </message>
     <message>
@@ -1732,7 +1732,7 @@
         <translation>Ihr Synchronisierungsordner</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
         <translation>Das Zertifikat Ihres Servers konnte nicht überprüft werden. Bitten Sie Ihren Administrator um ein gültiges Zertifikat.</translation>
     </message>
     <message>
@@ -1776,7 +1776,7 @@
         <translation>Symbole auf lokalen Dateien</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Keine Aktion verfügbar</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Deaktiviert</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
         <translation>Ihr Server indiziert „%1“ noch. Die Synchronisierung ist danach möglich.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Wenn eine Datei an zwei Orten geändert wurde</translation>
     </message>
     <message>
@@ -1816,7 +1816,7 @@
         <translation>Den persönlichen Ordner mit den empfohlenen Einstellungen synchronisieren.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Ordner werden geladen&#xa0;…</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Bereit zum Installieren von Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Starten Sie das Installationsprogramm erneut, wenn Sie Lumivo Drive installieren möchten.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Wird heruntergeladen&#xa0;…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
         <translation>Die neue Sprache wird beim nächsten Start von Lumivo Drive verwendet.</translation>
     </message>
     <message>
@@ -1892,7 +1892,7 @@
         <translation>Die schnelle Einrichtung eignet sich für die meisten Benutzer. Sie können alles später ändern.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Der Datenträger Ihres Servers ist voll.</translation>
     </message>
     <message>

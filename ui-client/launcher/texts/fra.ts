@@ -108,7 +108,7 @@
         <translation>Test de la connexion…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Installation de Lumivo Drive</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Aujourd’hui</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Le programme d’installation est prêt à installer Lumivo Drive sur cet ordinateur.</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Ce dossier chevauche celui d’une autre tâche de synchronisation. Sélectionnez un autre dossier.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Impossible d’afficher la liste des dossiers de votre serveur. Vérifiez votre connexion réseau et réessayez.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Intervention requise</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Le certificat de votre serveur a changé. Vérifiez-le avant de continuer.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>La mise à jour a échoué. Réessayez plus tard.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Impossible de vérifier le certificat de votre serveur.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Synchroniser à nouveau ces dossiers</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Le disque de cet ordinateur est plein. Libérez de l’espace pour poursuivre la synchronisation.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Utiliser une icône en noir et blanc dans la zone de notification</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Certains champs ne sont pas remplis correctement. Corrigez-les et réessayez.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>L’installation a été interrompue. Votre ordinateur n’a pas été modifié.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@
         <translation>Supprimer</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>Choisissez un dossier sur votre serveur et le dossier local avec lequel il se synchronise.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>Type de fichier</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Choisir le mode de configuration</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Langue</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>La synchronisation de «&#x202f;%1&#x202f;» s’est arrêtée. Ouvrez Lumivo Drive pour en savoir plus.</translation>
     </message>
     <message>
@@ -352,7 +352,7 @@
         <translation>ID ZephLink</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
         <translation>Le sens de synchronisation ne correspond pas aux autorisations de ce dossier. Choisissez un autre sens.</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>février</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
         <translation>La version de Lumivo Drive Server est trop ancienne. Mettez-la à jour sur votre serveur.</translation>
     </message>
     <message>
@@ -440,15 +440,15 @@
         <translation>Paramètres réseau</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Le programme d’installation applique vos choix.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Les dossiers que vous décochez ici seront supprimés de cet ordinateur. Ils restent sur votre serveur.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Le disque de votre serveur est plein. Libérez-y de l’espace pour poursuivre la synchronisation.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Enregistrer et copier le lien</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Saisissez l’adresse de votre serveur et les informations de votre compte.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Pour commencer</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>%1 pages précédentes</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Pour installer Lumivo Drive plus tard, relancez le programme d’installation.</translation>
     </message>
     <message>
@@ -524,7 +524,7 @@
         <translation>Se connecter via ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Cliquez sur «&#x202f;Installer&#x202f;» pour commencer. Cliquez sur «&#x202f;Précédent&#x202f;» pour revoir ou modifier vos choix. Cliquez sur «&#x202f;Annuler&#x202f;» pour quitter l’installation.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Envoyé</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Votre accès a été révoqué et les fichiers synchronisés ont été supprimés de cet ordinateur. Contactez votre administrateur.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Envoi…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Application des paramètres…</translation>
     </message>
     <message>
@@ -600,11 +600,11 @@
         <translation>Quitter</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Cliquez sur «&#x202f;Réparer&#x202f;» pour commencer. Cliquez sur «&#x202f;Précédent&#x202f;» pour revoir votre choix. Cliquez sur «&#x202f;Annuler&#x202f;» pour quitter l’installation.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
         <translation>Vous ne pouvez pas écrire dans ce dossier. Sélectionnez un autre dossier ou modifiez ses autorisations.</translation>
     </message>
     <message>
@@ -684,7 +684,7 @@
         <translation>Durée personnalisée</translation>
     </message>
     <message>
-        <source>Watch the status</source>
+        <source>Check the sync status</source>
         <translation>Suivre l’état</translation>
     </message>
     <message>
@@ -700,7 +700,7 @@
         <translation>Fichier</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Les applications suivantes utilisent des fichiers que le programme d’installation doit mettre à jour&#x202f;:</translation>
     </message>
     <message>
@@ -768,7 +768,7 @@
         <translation>Le serveur n’a pas accepté la requête. Vérifiez votre saisie et réessayez.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
         <translation>La version de Lumivo Drive Server est trop ancienne pour cet ordinateur. Mettez-la à jour sur votre serveur vers la version %1 ou une version ultérieure.</translation>
     </message>
     <message>
@@ -796,7 +796,7 @@
         <translation>Ce dossier est utilisé par une tâche de sauvegarde. Sélectionnez un autre dossier.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Le disque de cet ordinateur est plein.</translation>
     </message>
     <message>
@@ -852,7 +852,7 @@
         <translation>Fichier verrouillé</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
         <translation>Ne pas fermer les applications (l’ordinateur devra ensuite être redémarré)</translation>
     </message>
     <message>
@@ -880,7 +880,7 @@
         <translation>Reprendre</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Cliquez sur «&#x202f;Terminer&#x202f;» pour quitter l’installation.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Fichiers en cours d’utilisation</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>L’installation s’est terminée prématurément</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>Les fichiers des deux dossiers seront fusionnés.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>Ce dossier de votre serveur est déjà synchronisé avec cet ordinateur.\nUne deuxième tâche de synchronisation pour ce dossier doublerait l’espace disque occupé.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>L’installation a été interrompue</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Erreur</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Votre serveur bloque l’adresse de cet ordinateur. Demandez à votre administrateur de l’autoriser.</translation>
     </message>
     <message>
@@ -968,11 +968,11 @@
         <translation>Imprimer</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Bienvenue dans le programme d’installation de Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
+        <source>Enter no more than %1 characters.</source>
         <translation>La longueur maximale de ce champ est de %1.</translation>
     </message>
     <message>
@@ -1004,7 +1004,7 @@
         <translation>Tout ce que vous placez dans votre dossier de synchronisation apparaît sur votre serveur et sur vos autres ordinateurs.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Le programme d’installation peut modifier, réparer ou supprimer Lumivo Drive. Cliquez sur «&#x202f;Suivant&#x202f;» pour continuer.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Sélectionnez un dossier sur votre serveur et un dossier sur cet ordinateur.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Saisissez l’adresse et le port du serveur proxy.</translation>
     </message>
     <message>
@@ -1060,7 +1060,7 @@
         <translation>Prêt à réparer Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
+        <source>Skipped files</source>
         <translation>Fichiers filtrés</translation>
     </message>
     <message>
@@ -1092,11 +1092,11 @@
         <translation>Synchronisation…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Cliquez sur «&#x202f;Supprimer&#x202f;» pour supprimer Lumivo Drive de cet ordinateur. Cliquez sur «&#x202f;Précédent&#x202f;» pour revoir votre choix. Cliquez sur «&#x202f;Annuler&#x202f;» pour quitter l’installation.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Bienvenue à nouveau dans le programme d’installation de Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Espace insuffisant</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Chargement des dossiers partagés…</translation>
     </message>
     <message>
@@ -1140,7 +1140,7 @@
         <translation>Le dossier n’est pas monté sur votre serveur. Montez-le et réessayez.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
+        <source>Mark skipped files with an icon</source>
         <translation>Signaler les fichiers filtrés par une icône</translation>
     </message>
     <message>
@@ -1152,7 +1152,7 @@
         <translation>Suivant</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>Les deux versions des fichiers dont le contenu diffère sont conservées.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>Impossible d’afficher la liste des versions de ce fichier. Vérifiez vos autorisations sur le serveur.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>La réponse du serveur n’a pas pu être interprétée. Mettez à jour Lumivo Drive et réessayez.</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>juillet</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Certains fichiers à mettre à jour sont en cours d’utilisation.</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>Restreindre l’accès</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>Le programme d’installation va installer Lumivo Drive sur cet ordinateur. Cliquez sur «&#x202f;Suivant&#x202f;» pour continuer ou sur «&#x202f;Annuler&#x202f;» pour quitter l’installation.</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@
         <translation>Impossible de créer le dossier «&#x202f;%1&#x202f;». Vérifiez son chemin et vos autorisations.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>L’installation s’est arrêtée en raison d’une erreur.\nVotre ordinateur n’a pas été modifié.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Filtre de dossiers</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Impossible de vérifier le certificat de votre serveur. Contrôlez-le dans les paramètres de connexion.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Le fichier a été modifié à deux endroits en même temps. Les deux versions ont été conservées. Supprimez celle dont vous n’avez pas besoin.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Le certificat de votre serveur a changé. Vérifiez-le dans les paramètres de connexion.</translation>
     </message>
     <message>
@@ -1296,7 +1296,7 @@
         <translation>Vous avez choisi de supprimer Lumivo Drive de cet ordinateur.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
         <translation>Les modifications sur un lecteur réseau ne peuvent pas être surveillées. Sélectionnez un dossier sur un disque local.</translation>
     </message>
     <message>
@@ -1428,7 +1428,7 @@
         <translation>Afficher Lumivo Drive dans le menu contextuel</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
         <translation>La version de Lumivo Drive est trop ancienne. Mettez-la à jour sur cet ordinateur.</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Impossible de créer des liens, car le service de fichiers est désactivé. Demandez à votre administrateur de l’activer.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Fermer les applications et essayer de les redémarrer ensuite</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Ne pas synchroniser ce dossier</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Le certificat de votre serveur a changé.\nNe continuez que si vous en connaissez la raison.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>À l’instant</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Le programme d’installation est prêt à réparer Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Ce dossier est accessible en lecture seule. Les modifications effectuées sur cet ordinateur ne seront pas envoyées.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Vous n’avez pas accès à ce dossier. Demandez l’autorisation à votre administrateur.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Vos fichiers sont en cours de synchronisation. Vous pouvez continuer à travailler pendant ce temps.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Impossible de vérifier le certificat de votre serveur.\nNe continuez que si vous faites confiance à ce réseau.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Fichiers restant à synchroniser&#x202f;: %1</translation>
     </message>
     <message>
@@ -1732,7 +1732,7 @@
         <translation>Votre dossier de synchronisation</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
         <translation>Impossible de vérifier le certificat de votre serveur. Demandez un certificat valide à votre administrateur.</translation>
     </message>
     <message>
@@ -1776,7 +1776,7 @@
         <translation>Icônes sur les fichiers locaux</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Aucune action disponible</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Désactivé</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
         <translation>L’indexation de «&#x202f;%1&#x202f;» est encore en cours sur votre serveur. La synchronisation sera possible ensuite.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Lorsqu’un fichier a été modifié à deux endroits</translation>
     </message>
     <message>
@@ -1816,7 +1816,7 @@
         <translation>Synchronisez votre dossier personnel avec les paramètres recommandés.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Chargement des dossiers…</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Prêt à installer Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Relancez le programme d’installation lorsque vous voudrez installer Lumivo Drive.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Téléchargement…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
         <translation>La nouvelle langue sera utilisée au prochain démarrage de Lumivo Drive.</translation>
     </message>
     <message>
@@ -1892,7 +1892,7 @@
         <translation>La configuration rapide convient à la plupart des utilisateurs. Vous pourrez tout modifier plus tard.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Le disque de votre serveur est plein.</translation>
     </message>
     <message>
