@@ -94,7 +94,7 @@ void InitStrTable() {
   Row(40, "err_invalid_port_number",
       QT_TRANSLATE_NOOP("global", "Enter a port number from 1 to 65535."));
   Row(41, "quick_mode_open_folder_btn", QT_TRANSLATE_NOOP("global", "Open sync folder"));
-  Row(42, "msi_exit_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Lumivo Drive was installed"));
+  Row(42, "msi_exit_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Lumivo Drive has been installed"));
   Row(43, "action_unlink", QT_TRANSLATE_NOOP("global", "Unlink"));
   Row(44, "err_share_folder_conflict",
       QT_TRANSLATE_NOOP(
@@ -557,7 +557,7 @@ void InitStrTable() {
                         "Are you sure you want to cancel the installation of Lumivo Drive?"));
   Row(313, "manage_proxy_server_port", QT_TRANSLATE_NOOP("global", "Port"));
   Row(314, "tray_fb_change",
-      QT_TRANSLATE_NOOP("global", "Another server was found at this address"));
+      QT_TRANSLATE_NOOP("global", "A different server was found at this address"));
   Row(315, "month_jul", QT_TRANSLATE_NOOP("global", "July"));
   Row(316, "msi_filesinuse_dlg_description",
       QT_TRANSLATE_NOOP("global", "Some files that need to be updated are in use."));
@@ -748,9 +748,8 @@ void InitStrTable() {
   Row(432, "title_value", QT_TRANSLATE_NOOP("global", "Value"));
   Row(433, "NSIS_NOT_ADMIN_CONFIRM",
       QT_TRANSLATE_NOOP("global",
-                        "You are not signed in as an administrator. Lumivo Drive will only be "
-                        "installed for you.\\nDo "
-                        "you want to continue?"));
+                        "You are not signed in as an administrator. Lumivo Drive will be installed "
+                        "only for you.\\nDo you want to continue?"));
   Row(434, "err_fxm_share_link",
       QT_TRANSLATE_NOOP("global",
                         "Links cannot be created because the file service is turned off. Ask your "

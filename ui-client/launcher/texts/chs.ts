@@ -172,7 +172,7 @@
         <translation>打开同步文件夹</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive 安装完成</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>端口</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>在此地址发现了另一台服务器</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>值</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>您未以管理员身份登录。Lumivo Drive 将仅为当前用户安装。\n要继续吗？</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>開啟同步資料夾</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive 已安裝完成</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>連接埠</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>在此位址找到另一台伺服器</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>值</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>您不是以系統管理員身分登入。Lumivo Drive 只會為目前的使用者安裝。\n要繼續嗎？</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>Otevřít synchronizovanou složku</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Aplikace Lumivo Drive byla nainstalována</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Na této adrese byl nalezen jiný server</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Hodnota</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Nejste přihlášeni jako správce. Aplikace Lumivo Drive bude nainstalována pouze pro vás.\nChcete pokračovat?</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>Åbn synkroniseringsmappe</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive er installeret</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Der blev fundet en anden server på denne adresse</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Værdi</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Du er ikke logget ind som administrator. Lumivo Drive installeres kun for dig.\nVil du fortsætte?</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>Synchronisierungsordner öffnen</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive wurde installiert</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Unter dieser Adresse wurde ein anderer Server gefunden</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Wert</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Sie sind nicht als Administrator angemeldet. Lumivo Drive wird nur für Sie installiert.\nMöchten Sie fortfahren?</translation>
     </message>
     <message>

@@ -172,8 +172,8 @@
         <translation>Open sync folder</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
-        <translation>Lumivo Drive was installed</translation>
+        <source>Lumivo Drive has been installed</source>
+        <translation>Lumivo Drive has been installed</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -1180,8 +1180,8 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
-        <translation>Another server was found at this address</translation>
+        <source>A different server was found at this address</source>
+        <translation>A different server was found at this address</translation>
     </message>
     <message>
         <source>July</source>
@@ -1596,8 +1596,8 @@
         <translation>Value</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
-        <translation>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</translation>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
+        <translation>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</translation>
     </message>
     <message>
         <source>Links cannot be created because the file service is turned off. Ask your administrator to turn it on.</source>

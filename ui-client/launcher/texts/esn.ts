@@ -172,7 +172,7 @@
         <translation>Abrir la carpeta de sincronización</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive se ha instalado</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Puerto</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Se ha encontrado otro servidor en esta dirección</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Valor</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>No ha iniciado sesión como administrador. Lumivo Drive se instalará solo para usted.\n¿Desea continuar?</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>Ouvrir le dossier de synchronisation</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive a été installé</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Un autre serveur a été trouvé à cette adresse</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Valeur</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Vous n’avez pas ouvert de session en tant qu’administrateur. Lumivo Drive ne sera installé que pour vous.\nVoulez-vous continuer&#x202f;?</translation>
     </message>
     <message>

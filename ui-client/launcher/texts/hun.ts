@@ -172,7 +172,7 @@
         <translation>Szinkronizálási mappa megnyitása</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>A Lumivo Drive telepítése befejeződött</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Ezen a címen egy másik szerver található</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Érték</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Nem rendszergazdaként jelentkezett be. A Lumivo Drive csak az Ön számára lesz telepítve.\nFolytatja?</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>Apri cartella di sincronizzazione</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive è stato installato</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Porta</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>È stato trovato un altro server a questo indirizzo</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Valore</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>L’accesso non è stato effettuato come amministratore. Lumivo Drive verrà installato solo per l’utente corrente.\nContinuare?</translation>
     </message>
     <message>

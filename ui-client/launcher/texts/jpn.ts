@@ -172,7 +172,7 @@
         <translation>同期フォルダーを開く</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive をインストールしました</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>ポート</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>このアドレスで別のサーバーが見つかりました</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>値</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>管理者としてサインインしていません。Lumivo Drive は現在のユーザーにのみインストールされます。\n続行しますか?</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>동기화 폴더 열기</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive가 설치되었습니다</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>포트</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>이 주소에서 다른 서버를 찾았습니다</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>값</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>관리자로 로그인하지 않았습니다. Lumivo Drive가 현재 사용자에게만 설치됩니다.\n계속하시겠습니까?</translation>
     </message>
     <message>

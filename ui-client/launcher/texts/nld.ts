@@ -172,7 +172,7 @@
         <translation>Synchronisatiemap openen</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive is geïnstalleerd</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Poort</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Er is een andere server gevonden op dit adres</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Waarde</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Je bent niet aangemeld als beheerder. Lumivo Drive wordt alleen voor jou geïnstalleerd.\nWil je doorgaan?</translation>
     </message>
     <message>

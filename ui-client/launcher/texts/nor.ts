@@ -172,7 +172,7 @@
         <translation>Åpne synkroniseringsmappe</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive er installert</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Fant en annen server på denne adressen</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Verdi</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Du er ikke logget inn som administrator. Lumivo Drive blir bare installert for deg.\nVil du fortsette?</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>Otwórz folder synchronizacji</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Aplikacja Lumivo Drive została zainstalowana</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Pod tym adresem znaleziono inny serwer</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Wartość</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Nie używasz konta administratora. Aplikacja Lumivo Drive zostanie zainstalowana tylko dla Ciebie.\nCzy chcesz kontynuować?</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>Abrir pasta de sincronização</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>O Lumivo Drive foi instalado</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Porta</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Outro servidor foi encontrado neste endereço</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Valor</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Você não entrou como administrador. O Lumivo Drive será instalado somente para você.\nDeseja continuar?</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>Открыть папку синхронизации</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Приложение Lumivo Drive установлено</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Порт</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>По этому адресу найден другой сервер</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Значение</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Вы вошли в систему не как администратор. Приложение Lumivo Drive будет установлено только для вас.\nПродолжить?</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>Öppna synkroniseringsmappen</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive har installerats</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>En annan server hittades på den här adressen</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Värde</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Du är inte inloggad som administratör. Lumivo Drive installeras endast för dig.\nVill du fortsätta?</translation>
     </message>
     <message>

@@ -172,7 +172,7 @@
         <translation>Eşitleme klasörünü aç</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive yüklendi</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Bağlantı noktası</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Bu adreste başka bir sunucu bulundu</translation>
     </message>
     <message>
@@ -1596,7 +1596,7 @@
         <translation>Değer</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Yönetici olarak oturum açmadınız. Lumivo Drive yalnızca sizin için yüklenecek.\nDevam etmek istiyor musunuz?</translation>
     </message>
     <message>
