@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Lumivo Drive has been installed</source>
-        <translation>Lumivo Drive se ha instalado</translation>
+        <translation>Se ha instalado Lumivo Drive</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>Your files, wherever you work</source>
-        <translation>Sus archivos, dondequiera que trabaje</translation>
+        <translation>Sus archivos, allá donde trabaje</translation>
     </message>
     <message>
         <source>Sync these folders again</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Choose a folder on your server and the local folder to sync it with.</source>
-        <translation>Elija una carpeta de su servidor y la carpeta local con la que se sincroniza.</translation>
+        <translation>Elija una carpeta de su servidor y la carpeta local con la que desea sincronizarla.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>La dirección de sincronización no se corresponde con los permisos de esta carpeta. Elija otra dirección.</translation>
+        <translation>La dirección de sincronización no se corresponde con sus permisos para esta carpeta. Elija otra dirección.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>La versión de Lumivo Drive Server es demasiado antigua. Actualícela en su servidor.</translation>
+        <translation>Esta versión de Lumivo Drive Server es demasiado antigua. Actualícela en su servidor.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -441,7 +441,7 @@
     </message>
     <message>
         <source>Setup is applying your choices.</source>
-        <translation>El programa de instalación está aplicando sus elecciones.</translation>
+        <translation>El programa de instalación está aplicando las opciones elegidas.</translation>
     </message>
     <message>
         <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
-        <translation>Haga clic en «Instalar» para empezar. Haga clic en «Atrás» para revisar o cambiar sus elecciones. Haga clic en «Cancelar» para salir de la instalación.</translation>
+        <translation>Haga clic en «Instalar» para empezar. Haga clic en «Atrás» para revisar o cambiar las opciones elegidas. Haga clic en «Cancelar» para salir de la instalación.</translation>
     </message>
     <message>
         <source>Something went wrong. Try again later.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>No puede escribir en esta carpeta. Seleccione otra carpeta o cambie sus permisos.</translation>
+        <translation>No puede escribir en esta carpeta. Cambie los permisos de la carpeta o seleccione otra.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -669,7 +669,7 @@
     </message>
     <message>
         <source>Everything in sync</source>
-        <translation>Sincronización al día</translation>
+        <translation>Todo sincronizado</translation>
     </message>
     <message>
         <source>Date</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Consultar el estado</translation>
+        <translation>Consultar el estado de la sincronización</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update:</source>
-        <translation>Las siguientes aplicaciones usan archivos que el programa de instalación debe actualizar:</translation>
+        <translation>Las siguientes aplicaciones están usando archivos que el programa de instalación debe actualizar:</translation>
     </message>
     <message>
         <source>Open Lumivo Drive</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>La versión de Lumivo Drive Server es demasiado antigua para este equipo. Actualícela en su servidor a la versión %1 o posterior.</translation>
+        <translation>Esta versión de Lumivo Drive Server es demasiado antigua para la versión de Lumivo Drive instalada en este equipo. Actualice Lumivo Drive Server a la versión %1 o posterior.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -845,7 +845,7 @@
     </message>
     <message>
         <source>Share with others</source>
-        <translation>Compartir con otros</translation>
+        <translation>Compartir con otras personas</translation>
     </message>
     <message>
         <source>Locked file</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>No cerrar las aplicaciones (después será necesario reiniciar el equipo)</translation>
+        <translation>No cerrar las aplicaciones (tendrá que reiniciar el equipo más tarde)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>La longitud máxima de este campo es de %1.</translation>
+        <translation>Introduzca %1 caracteres como máximo.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1001,7 +1001,7 @@
     </message>
     <message>
         <source>Everything that you put into your sync folder appears on your server and on your other computers.</source>
-        <translation>Los archivos que coloque en su carpeta de sincronización aparecerán en su servidor y en sus demás equipos.</translation>
+        <translation>Todo lo que coloque en su carpeta de sincronización aparecerá en su servidor y en sus demás equipos.</translation>
     </message>
     <message>
         <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
@@ -1017,7 +1017,7 @@
     </message>
     <message>
         <source>Watching for changes...</source>
-        <translation>A la espera de cambios…</translation>
+        <translation>Supervisando los cambios…</translation>
     </message>
     <message>
         <source>Change</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Archivos filtrados</translation>
+        <translation>Archivos omitidos</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Marcar los archivos filtrados con un icono</translation>
+        <translation>Marcar los archivos omitidos con un icono</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Both versions of files with different contents are kept.</source>
-        <translation>De los archivos con contenido distinto se conservan ambas versiones.</translation>
+        <translation>Se conservan ambas versiones de los archivos con contenido distinto.</translation>
     </message>
     <message>
         <source>This folder is already synced. Do you want to add it again?</source>
@@ -1401,7 +1401,7 @@
     </message>
     <message>
         <source>File names to skip</source>
-        <translation>Nombres de archivo que se omiten</translation>
+        <translation>Nombres de archivo que se omitirán</translation>
     </message>
     <message>
         <source>Thursday</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>La versión de Lumivo Drive es demasiado antigua. Actualícela en este equipo.</translation>
+        <translation>Esta versión de Lumivo Drive es demasiado antigua. Actualícela en este equipo.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>File extensions to skip</source>
-        <translation>Extensiones de archivo que se omiten</translation>
+        <translation>Extensiones de archivo que se omitirán</translation>
     </message>
     <message>
         <source>Relay</source>
@@ -1665,7 +1665,7 @@
     </message>
     <message>
         <source>Keep the version that was changed last</source>
-        <translation>Conservar la versión modificada en último lugar</translation>
+        <translation>Conservar la versión modificada más recientemente</translation>
     </message>
     <message>
         <source>Find servers on the local network</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>No se ha podido verificar el certificado de su servidor. Pida uno válido a su administrador.</translation>
+        <translation>No se ha podido verificar el certificado de su servidor. Pida a su administrador que instale uno válido.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1777,7 +1777,7 @@
     </message>
     <message>
         <source>No actions available</source>
-        <translation>Ninguna acción disponible</translation>
+        <translation>No hay acciones disponibles</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>Su servidor aún está indexando «%1». Se podrá sincronizar después.</translation>
+        <translation>Su servidor aún está indexando «%1». Podrá sincronizar la carpeta cuando finalice la indexación.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>El nuevo idioma se usará la próxima vez que se inicie Lumivo Drive.</translation>
+        <translation>El nuevo idioma se aplicará la próxima vez que se inicie Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>

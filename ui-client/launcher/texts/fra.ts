@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation>Avertissement de certificat</translation>
+        <translation>Avertissement relatif au certificat</translation>
     </message>
     <message>
         <source>Change connection settings</source>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>Your files, wherever you work</source>
-        <translation>Vos fichiers, où que vous travailliez</translation>
+        <translation>Vos fichiers, partout où vous travaillez</translation>
     </message>
     <message>
         <source>Sync these folders again</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Choose a folder on your server and the local folder to sync it with.</source>
-        <translation>Choisissez un dossier sur votre serveur et le dossier local avec lequel il se synchronise.</translation>
+        <translation>Choisissez un dossier sur votre serveur et le dossier local avec lequel le synchroniser.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>Le sens de synchronisation ne correspond pas aux autorisations de ce dossier. Choisissez un autre sens.</translation>
+        <translation>Le sens de synchronisation ne correspond pas à vos autorisations sur ce dossier. Choisissez un autre sens.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>La version de Lumivo Drive Server est trop ancienne. Mettez-la à jour sur votre serveur.</translation>
+        <translation>Cette version de Lumivo Drive Server est trop ancienne. Mettez-la à jour sur votre serveur.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
-        <translation>Les dossiers que vous décochez ici seront supprimés de cet ordinateur. Ils restent sur votre serveur.</translation>
+        <translation>Les dossiers que vous décochez ici seront supprimés de cet ordinateur. Ils resteront sur votre serveur.</translation>
     </message>
     <message>
         <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Vous ne pouvez pas écrire dans ce dossier. Sélectionnez un autre dossier ou modifiez ses autorisations.</translation>
+        <translation>Vous ne pouvez pas écrire dans ce dossier. Modifiez ses autorisations ou sélectionnez un autre dossier.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Suivre l’état</translation>
+        <translation>Consulter l’état de la synchronisation</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -737,7 +737,7 @@
     </message>
     <message>
         <source>Keep the files on this computer and on your server in sync.</source>
-        <translation>Gardez les fichiers de cet ordinateur et de votre serveur synchronisés.</translation>
+        <translation>Gardez synchronisés les fichiers de cet ordinateur et de votre serveur.</translation>
     </message>
     <message>
         <source>Back</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>La version de Lumivo Drive Server est trop ancienne pour cet ordinateur. Mettez-la à jour sur votre serveur vers la version %1 ou une version ultérieure.</translation>
+        <translation>Cette version de Lumivo Drive Server est trop ancienne pour la version de Lumivo Drive installée sur cet ordinateur. Mettez à jour Lumivo Drive Server vers la version %1 ou une version ultérieure.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>Open containing folder</source>
-        <translation>Ouvrir le dossier parent</translation>
+        <translation>Ouvrir l’emplacement du fichier</translation>
     </message>
     <message>
         <source>Connection type</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>Your account requires two-step verification. Set it up on your server, then sign in again.</source>
-        <translation>Votre compte nécessite la vérification en deux étapes. Configurez-la sur votre serveur, puis reconnectez-vous.</translation>
+        <translation>Votre compte nécessite la vérification en deux étapes. Configurez-la sur votre serveur, puis ouvrez une nouvelle session.</translation>
     </message>
     <message>
         <source>The file service is turned off on your server. Ask your administrator to turn it on.</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Ne pas fermer les applications (l’ordinateur devra ensuite être redémarré)</translation>
+        <translation>Ne pas fermer les applications (vous devrez redémarrer l’ordinateur plus tard)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>La longueur maximale de ce champ est de %1.</translation>
+        <translation>Saisissez %1 caractères au maximum.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Fichiers filtrés</translation>
+        <translation>Fichiers ignorés</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Signaler les fichiers filtrés par une icône</translation>
+        <translation>Signaler les fichiers ignorés par une icône</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1169,7 +1169,7 @@
     </message>
     <message>
         <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
-        <translation>La réponse du serveur n’a pas pu être interprétée. Mettez à jour Lumivo Drive et réessayez.</translation>
+        <translation>Impossible d’interpréter la réponse du serveur. Mettez à jour Lumivo Drive et réessayez.</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the installation of Lumivo Drive?</source>
@@ -1281,7 +1281,7 @@
     </message>
     <message>
         <source>Create a link to a file and send it to anyone, with a password and an end date if you like.</source>
-        <translation>Créez un lien vers un fichier et envoyez-le à qui vous voulez, avec un mot de passe et une date de fin si vous le souhaitez.</translation>
+        <translation>Créez un lien vers un fichier et envoyez-le à qui vous voulez, éventuellement avec un mot de passe et une date de fin.</translation>
     </message>
     <message>
         <source>Enter the verification code for your account.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>Les modifications sur un lecteur réseau ne peuvent pas être surveillées. Sélectionnez un dossier sur un disque local.</translation>
+        <translation>Les modifications effectuées sur un lecteur réseau ne peuvent pas être détectées. Sélectionnez un dossier sur un disque local.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>La version de Lumivo Drive est trop ancienne. Mettez-la à jour sur cet ordinateur.</translation>
+        <translation>Cette version de Lumivo Drive est trop ancienne. Mettez-la à jour sur cet ordinateur.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1585,7 +1585,7 @@
     </message>
     <message>
         <source>Sign-in failed</source>
-        <translation>Échec de l’authentification</translation>
+        <translation>Échec de l’ouverture de session</translation>
     </message>
     <message>
         <source>Lumivo Drive has no features that can be chosen separately.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Impossible de vérifier le certificat de votre serveur. Demandez un certificat valide à votre administrateur.</translation>
+        <translation>Impossible de vérifier le certificat de votre serveur. Demandez à votre administrateur d’installer un certificat valide.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>L’indexation de «&#x202f;%1&#x202f;» est encore en cours sur votre serveur. La synchronisation sera possible ensuite.</translation>
+        <translation>Votre serveur indexe encore «&#x202f;%1&#x202f;». Vous pourrez le synchroniser une fois l’indexation terminée.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>La nouvelle langue sera utilisée au prochain démarrage de Lumivo Drive.</translation>
+        <translation>La nouvelle langue sera appliquée au prochain démarrage de Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>

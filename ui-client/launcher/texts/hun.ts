@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Sync this folder again</source>
-        <translation>Mappa szinkronizálása újra</translation>
+        <translation>Mappa ismételt szinkronizálása</translation>
     </message>
     <message>
         <source>No</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>Sync these folders again</source>
-        <translation>Mappák szinkronizálása újra</translation>
+        <translation>Mappák ismételt szinkronizálása</translation>
     </message>
     <message>
         <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Choose a folder on your server and the local folder to sync it with.</source>
-        <translation>Válasszon egy mappát a szerveren, valamint azt a helyi mappát, amellyel szinkronizálódni fog.</translation>
+        <translation>Válasszon egy mappát a szerveren, valamint azt a helyi mappát, amellyel szinkronizálni szeretné.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>A szinkronizálás iránya nem felel meg a mappához tartozó jogosultságoknak. Válasszon másik irányt.</translation>
+        <translation>A szinkronizálás iránya nem felel meg a mappára vonatkozó jogosultságainak. Válasszon másik irányt.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>A Lumivo Drive Server túl régi. Frissítse a szerveren.</translation>
+        <translation>A Lumivo Drive Server e verziója túl régi. Frissítse a szerveren.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>Összekapcsolás újra</translation>
+        <translation>Ismételt összekapcsolás</translation>
     </message>
     <message>
         <source>History</source>
@@ -473,11 +473,11 @@
     </message>
     <message>
         <source>Let&apos;s get started</source>
-        <translation>Kezdjük el</translation>
+        <translation>Kezdjünk hozzá</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
-        <translation>Nincs menthető módosítás.</translation>
+        <translation>Nincs mentendő módosítás.</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
@@ -501,7 +501,7 @@
     </message>
     <message>
         <source>Lumivo Drive could not be started. Restart the computer and try again.</source>
-        <translation>A Lumivo Drive nem indítható el. Indítsa újra a számítógépet, és próbálja újra.</translation>
+        <translation>Nem sikerült elindítani a Lumivo Drive alkalmazást. Indítsa újra a számítógépet, és próbálja újra.</translation>
     </message>
     <message>
         <source>Keep the version on the server</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Ebbe a mappába nem írhat. Válasszon másik mappát, vagy módosítsa a mappa jogosultságait.</translation>
+        <translation>Ebbe a mappába nem írhat. Módosítsa a mappa jogosultságait, vagy válasszon másik mappát.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Az állapot figyelése</translation>
+        <translation>A szinkronizálás állapotának megtekintése</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Choose the folders, the sync direction and the sync rules yourself.</source>
-        <translation>Válassza ki saját maga a mappákat, a szinkronizálás irányát és a szinkronizálási szabályokat.</translation>
+        <translation>Saját maga választhatja ki a mappákat, a szinkronizálás irányát és a szinkronizálási szabályokat.</translation>
     </message>
     <message>
         <source>Repair the installed files</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>A Lumivo Drive Server túl régi ehhez a számítógéphez. Frissítse a szerveren legalább a következő verzióra: %1.</translation>
+        <translation>A Lumivo Drive Server e verziója túl régi a számítógépen lévő Lumivo Drive alkalmazáshoz. Frissítse a szerveren legalább a következő verzióra: %1.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Az alkalmazások nyitva hagyása (utána újra kell indítani a számítógépet)</translation>
+        <translation>Az alkalmazások nyitva hagyása (később újra kell indítania a számítógépet)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
-        <translation>Ez a szerveren lévő mappa már szinkronizálva van ezzel a számítógéppel.\nEgy második szinkronizálási feladattal kétszer annyi lemezterületet foglal.</translation>
+        <translation>Ez a szerveren lévő mappa már szinkronizálva van ezzel a számítógéppel.\nEgy második szinkronizálási feladattal kétszer annyi lemezterületet foglalna.</translation>
     </message>
     <message>
         <source>Setup was interrupted</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
-        <translation>A szerver letiltja ennek a számítógépnek a címét. Kérje meg a rendszergazdát, hogy engedélyezze.</translation>
+        <translation>A szerver tiltja ennek a számítógépnek a címét. Kérje meg a rendszergazdát, hogy engedélyezze.</translation>
     </message>
     <message>
         <source>Checking your username and password...</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>Ennek a mezőnek a maximális hossza %1.</translation>
+        <translation>Legfeljebb %1 karaktert adjon meg.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Kiszűrt fájlok</translation>
+        <translation>Kihagyott fájlok</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>A kiszűrt fájlok megjelölése ikonnal</translation>
+        <translation>A kihagyott fájlok megjelölése ikonnal</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1157,7 +1157,7 @@
     </message>
     <message>
         <source>This folder is already synced. Do you want to add it again?</source>
-        <translation>Ez a mappa már szinkronizálva van. Hozzáadja újra?</translation>
+        <translation>Ez a mappa már szinkronizálva van. Újra hozzáadja?</translation>
     </message>
     <message>
         <source>Advanced settings</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
-        <translation>A telepítő telepíti a Lumivo Drive alkalmazást erre a számítógépre. A folytatáshoz kattintson a Tovább, a telepítőből való kilépéshez a Mégse gombra.</translation>
+        <translation>A telepítő telepíteni fogja a Lumivo Drive alkalmazást erre a számítógépre. A folytatáshoz kattintson a Tovább, a telepítőből való kilépéshez a Mégse gombra.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1293,11 +1293,11 @@
     </message>
     <message>
         <source>You have chosen to remove Lumivo Drive from this computer.</source>
-        <translation>A Lumivo Drive erről a számítógépről való eltávolítását választotta.</translation>
+        <translation>Úgy döntött, hogy eltávolítja a Lumivo Drive alkalmazást erről a számítógépről.</translation>
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>A hálózati meghajtó változásai nem figyelhetők. Válasszon egy helyi lemezen lévő mappát.</translation>
+        <translation>A hálózati meghajtó változásai nem észlelhetők. Válasszon egy helyi lemezen lévő mappát.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1377,7 +1377,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Idő</translation>
+        <translation>Időpont</translation>
     </message>
     <message>
         <source>%1 h ago</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>A Lumivo Drive túl régi. Frissítse ezen a számítógépen.</translation>
+        <translation>A Lumivo Drive e verziója túl régi. Frissítse ezen a számítógépen.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>A szerver tanúsítványát nem sikerült ellenőrizni. Kérjen érvényes tanúsítványt a rendszergazdától.</translation>
+        <translation>A szerver tanúsítványát nem sikerült ellenőrizni. Kérje meg a rendszergazdát, hogy telepítsen érvényes tanúsítványt.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>A szerver még indexeli a(z) „%1” mappát. Utána szinkronizálható lesz.</translation>
+        <translation>A szerver még indexeli a(z) „%1” mappát. Az indexelés befejezése után szinkronizálhatja.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>

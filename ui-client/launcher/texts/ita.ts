@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Choose a folder on your server and the local folder to sync it with.</source>
-        <translation>Scegliere una cartella sul server e la cartella locale con cui si sincronizza.</translation>
+        <translation>Scegliere una cartella sul server e la cartella locale con cui sincronizzarla.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>La direzione di sincronizzazione non corrisponde alle autorizzazioni di questa cartella. Scegliere un’altra direzione.</translation>
+        <translation>La direzione di sincronizzazione non corrisponde alle autorizzazioni dell’utente per questa cartella. Scegliere un’altra direzione.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>La versione di Lumivo Drive Server è troppo vecchia. Aggiornarla sul server.</translation>
+        <translation>Questa versione di Lumivo Drive Server è troppo vecchia. Aggiornarla sul server.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>Uploaded</source>
-        <translation>Caricato</translation>
+        <translation>Caricato sul server</translation>
     </message>
     <message>
         <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Impossibile scrivere in questa cartella. Selezionare un’altra cartella o modificarne le autorizzazioni.</translation>
+        <translation>Impossibile scrivere in questa cartella. Modificarne le autorizzazioni o selezionare un’altra cartella.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Controllare lo stato</translation>
+        <translation>Controllare lo stato della sincronizzazione</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update:</source>
-        <translation>Le seguenti applicazioni usano file che il programma di installazione deve aggiornare:</translation>
+        <translation>Le seguenti applicazioni stanno usando file che il programma di installazione deve aggiornare:</translation>
     </message>
     <message>
         <source>Open Lumivo Drive</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>La versione di Lumivo Drive Server è troppo vecchia per questo computer. Aggiornarla sul server alla versione %1 o successiva.</translation>
+        <translation>Questa versione di Lumivo Drive Server è troppo vecchia per la versione di Lumivo Drive installata su questo computer. Aggiornare Lumivo Drive Server alla versione %1 o successiva.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>Open containing folder</source>
-        <translation>Apri cartella superiore</translation>
+        <translation>Apri percorso file</translation>
     </message>
     <message>
         <source>Connection type</source>
@@ -841,7 +841,7 @@
     </message>
     <message>
         <source>Add a sync task</source>
-        <translation>Aggiungi attività di sincronizzazione</translation>
+        <translation>Aggiungere un’attività di sincronizzazione</translation>
     </message>
     <message>
         <source>Share with others</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>La lunghezza massima di questo campo è %1.</translation>
+        <translation>Immettere al massimo %1 caratteri.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>File filtrati</translation>
+        <translation>File ignorati</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Contrassegna i file filtrati con un’icona</translation>
+        <translation>Contrassegna i file ignorati con un’icona</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
-        <translation>Il programma di installazione installa Lumivo Drive su questo computer. Fare clic su “Avanti” per continuare o su “Annulla” per uscire dall’installazione.</translation>
+        <translation>Il programma di installazione installerà Lumivo Drive su questo computer. Fare clic su “Avanti” per continuare o su “Annulla” per uscire dall’installazione.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1293,11 +1293,11 @@
     </message>
     <message>
         <source>You have chosen to remove Lumivo Drive from this computer.</source>
-        <translation>È stata scelta la rimozione di Lumivo Drive da questo computer.</translation>
+        <translation>Si è scelto di rimuovere Lumivo Drive da questo computer.</translation>
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>Non è possibile monitorare le modifiche su un’unità di rete. Selezionare una cartella su un disco locale.</translation>
+        <translation>Non è possibile rilevare le modifiche su un’unità di rete. Selezionare una cartella su un disco locale.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>La versione di Lumivo Drive è troppo vecchia. Aggiornarla su questo computer.</translation>
+        <translation>Questa versione di Lumivo Drive è troppo vecchia. Aggiornarla su questo computer.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Impossibile verificare il certificato del server. Chiederne uno valido all’amministratore.</translation>
+        <translation>Impossibile verificare il certificato del server. Chiedere all’amministratore di installarne uno valido.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>Il server sta ancora indicizzando “%1”. Al termine sarà possibile sincronizzare la cartella.</translation>
+        <translation>Il server sta ancora indicizzando “%1”. Sarà possibile sincronizzare la cartella al termine dell’indicizzazione.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>La nuova lingua verrà usata al prossimo avvio di Lumivo Drive.</translation>
+        <translation>La nuova lingua avrà effetto al prossimo avvio di Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>

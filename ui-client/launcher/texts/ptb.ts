@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Could not connect to your server. Check your network connection and try again.</source>
-        <translation>Não foi possível conectar ao servidor. Verifique a conexão de rede e tente novamente.</translation>
+        <translation>Não foi possível conectar-se ao servidor. Verifique a conexão de rede e tente novamente.</translation>
     </message>
     <message>
         <source>Repair</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>No, thanks</source>
-        <translation>Não, obrigado</translation>
+        <translation>Agora não</translation>
     </message>
     <message>
         <source>Action</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>This computer is already linked to &quot;%1&quot;. Edit the existing connection instead.</source>
-        <translation>Este computador já está vinculado a “%1”. Edite a conexão existente.</translation>
+        <translation>Este computador já está vinculado a “%1”. Em vez disso, edite a conexão existente.</translation>
     </message>
     <message>
         <source>Update available</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>A direção da sincronização não é compatível com as permissões desta pasta. Escolha outra direção.</translation>
+        <translation>A direção da sincronização não é compatível com as suas permissões nesta pasta. Escolha outra direção.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>O Lumivo Drive Server é antigo demais. Atualize-o no servidor.</translation>
+        <translation>Esta versão do Lumivo Drive Server é antiga demais. Atualize-a no servidor.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Você não pode gravar nesta pasta. Selecione outra pasta ou altere as permissões dela.</translation>
+        <translation>Você não pode gravar nesta pasta. Altere as permissões da pasta ou selecione outra.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Acompanhe o status</translation>
+        <translation>Consulte o status da sincronização</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update:</source>
-        <translation>Os aplicativos a seguir usam arquivos que o programa de instalação precisa atualizar:</translation>
+        <translation>Os aplicativos a seguir estão usando arquivos que o programa de instalação precisa atualizar:</translation>
     </message>
     <message>
         <source>Open Lumivo Drive</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Choose the folders, the sync direction and the sync rules yourself.</source>
-        <translation>Escolha você mesmo as pastas, a direção e as regras de sincronização.</translation>
+        <translation>Escolha por conta própria as pastas, a direção e as regras de sincronização.</translation>
     </message>
     <message>
         <source>Repair the installed files</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>O Lumivo Drive Server é antigo demais para este computador. Atualize-o no servidor para a versão %1 ou posterior.</translation>
+        <translation>Esta versão do Lumivo Drive Server é antiga demais para a versão do Lumivo Drive instalada neste computador. Atualize o Lumivo Drive Server para a versão %1 ou posterior.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -777,7 +777,7 @@
     </message>
     <message>
         <source>The ZephLink service reported an error. Try again later.</source>
-        <translation>O serviço ZephLink informou um erro. Tente novamente mais tarde.</translation>
+        <translation>O serviço ZephLink relatou um erro. Tente novamente mais tarde.</translation>
     </message>
     <message>
         <source>Close these applications and click Retry, or click Ignore and restart the computer later.</source>
@@ -841,7 +841,7 @@
     </message>
     <message>
         <source>Add a sync task</source>
-        <translation>Adicionar tarefa de sincronização</translation>
+        <translation>Adicione uma tarefa de sincronização</translation>
     </message>
     <message>
         <source>Share with others</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Não fechar os aplicativos (será necessário reiniciar o computador depois)</translation>
+        <translation>Não fechar os aplicativos (você precisará reiniciar o computador mais tarde)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>Setup ended prematurely</source>
-        <translation>A instalação foi encerrada antes do fim</translation>
+        <translation>A instalação foi encerrada prematuramente</translation>
     </message>
     <message>
         <source>File sharing through ZephLink is turned off on your server. Ask your administrator to turn it on.</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
-        <translation>Esta pasta do servidor já está sincronizada com este computador.\nUma segunda tarefa de sincronização para ela ocupa o dobro do espaço em disco.</translation>
+        <translation>Esta pasta do servidor já está sincronizada com este computador.\nUma segunda tarefa de sincronização para ela ocuparia o dobro do espaço em disco.</translation>
     </message>
     <message>
         <source>Setup was interrupted</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
-        <translation>O servidor bloqueia o endereço deste computador. Peça ao administrador que o permita.</translation>
+        <translation>O servidor está bloqueando o endereço deste computador. Peça ao administrador que o permita.</translation>
     </message>
     <message>
         <source>Checking your username and password...</source>
@@ -969,11 +969,11 @@
     </message>
     <message>
         <source>Welcome to Lumivo Drive Setup</source>
-        <translation>Bem-vindo à instalação do Lumivo Drive</translation>
+        <translation>Boas-vindas à instalação do Lumivo Drive</translation>
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>O comprimento máximo deste campo é %1.</translation>
+        <translation>Digite no máximo %1 caracteres.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Arquivos filtrados</translation>
+        <translation>Arquivos ignorados</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1097,7 +1097,7 @@
     </message>
     <message>
         <source>Welcome back to Lumivo Drive Setup</source>
-        <translation>Bem-vindo de volta à instalação do Lumivo Drive</translation>
+        <translation>Boas-vindas de volta à instalação do Lumivo Drive</translation>
     </message>
     <message>
         <source>Direct</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Marcar arquivos filtrados com um ícone</translation>
+        <translation>Marcar arquivos ignorados com um ícone</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1209,7 +1209,7 @@
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Bem-vindo</translation>
+        <translation>Boas-vindas</translation>
     </message>
     <message>
         <source>Sync this shared folder</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
-        <translation>O programa de instalação instala o Lumivo Drive neste computador. Clique em “Avançar” para continuar ou em “Cancelar” para sair da instalação.</translation>
+        <translation>O programa de instalação instalará o Lumivo Drive neste computador. Clique em “Avançar” para continuar ou em “Cancelar” para sair da instalação.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1253,7 +1253,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
-        <translation>Não foi possível verificar o certificado do servidor. Verifique-o nas configurações de conexão.</translation>
+        <translation>Não foi possível verificar o certificado do servidor. Confira-o nas configurações de conexão.</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>Não é possível monitorar alterações em uma unidade de rede. Selecione uma pasta em um disco local.</translation>
+        <translation>Não é possível detectar alterações em uma unidade de rede. Selecione uma pasta em um disco local.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>O Lumivo Drive é antigo demais. Atualize-o neste computador.</translation>
+        <translation>Esta versão do Lumivo Drive é antiga demais. Atualize-a neste computador.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1517,7 +1517,7 @@
     </message>
     <message>
         <source>Too many failed attempts. Wait a few minutes and try again.</source>
-        <translation>Excesso de tentativas sem sucesso. Aguarde alguns minutos e tente novamente.</translation>
+        <translation>Muitas tentativas sem sucesso. Aguarde alguns minutos e tente novamente.</translation>
     </message>
     <message>
         <source>September</source>
@@ -1713,7 +1713,7 @@
     </message>
     <message>
         <source>Welcome to Lumivo Drive</source>
-        <translation>Bem-vindo ao Lumivo Drive</translation>
+        <translation>Boas-vindas ao Lumivo Drive</translation>
     </message>
     <message>
         <source>Set an end date</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Não foi possível verificar o certificado do servidor. Peça ao administrador um certificado válido.</translation>
+        <translation>Não foi possível verificar o certificado do servidor. Peça ao administrador que instale um certificado válido.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>O servidor ainda está indexando “%1”. A pasta poderá ser sincronizada depois.</translation>
+        <translation>O servidor ainda está indexando “%1”. Você poderá sincronizar a pasta quando a indexação terminar.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>O novo idioma será usado na próxima inicialização do Lumivo Drive.</translation>
+        <translation>O novo idioma será aplicado na próxima vez que o Lumivo Drive for iniciado.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>

@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>No, thanks</source>
-        <translation>Não, obrigado</translation>
+        <translation>Agora não</translation>
     </message>
     <message>
         <source>Action</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>This computer is already linked to &quot;%1&quot;. Edit the existing connection instead.</source>
-        <translation>Este computador já está associado a “%1”. Em alternativa, edite a ligação existente.</translation>
+        <translation>Este computador já está associado a “%1”. Em vez disso, edite a ligação existente.</translation>
     </message>
     <message>
         <source>Update available</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Choose a folder on your server and the local folder to sync it with.</source>
-        <translation>Escolha uma pasta no servidor e a pasta local com a qual é sincronizada.</translation>
+        <translation>Escolha uma pasta no servidor e a pasta local com a qual a pretende sincronizar.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>O sentido da sincronização não é compatível com as permissões desta pasta. Escolha outro sentido.</translation>
+        <translation>O sentido da sincronização não é compatível com as suas permissões nesta pasta. Escolha outro sentido.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>O Lumivo Drive Server é demasiado antigo. Atualize-o no servidor.</translation>
+        <translation>Esta versão do Lumivo Drive Server é demasiado antiga. Atualize-a no servidor.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
-        <translation>As pastas que desmarcar aqui serão removidas deste computador. Permanecem no servidor.</translation>
+        <translation>As pastas que desmarcar aqui serão removidas deste computador. Permanecerão no servidor.</translation>
     </message>
     <message>
         <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Não pode escrever nesta pasta. Selecione outra pasta ou altere as respetivas permissões.</translation>
+        <translation>Não pode escrever nesta pasta. Altere as permissões da pasta ou selecione outra.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Acompanhar o estado</translation>
+        <translation>Consultar o estado da sincronização</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update:</source>
-        <translation>As seguintes aplicações utilizam ficheiros que o programa de instalação tem de atualizar:</translation>
+        <translation>As seguintes aplicações estão a utilizar ficheiros que o programa de instalação tem de atualizar:</translation>
     </message>
     <message>
         <source>Open Lumivo Drive</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>O Lumivo Drive Server é demasiado antigo para este computador. Atualize-o no servidor para a versão %1 ou posterior.</translation>
+        <translation>Esta versão do Lumivo Drive Server é demasiado antiga para a versão do Lumivo Drive instalada neste computador. Atualize o Lumivo Drive Server para a versão %1 ou posterior.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Não fechar as aplicações (será necessário reiniciar o computador depois)</translation>
+        <translation>Não fechar as aplicações (terá de reiniciar o computador mais tarde)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
-        <translation>Esta pasta do servidor já está sincronizada com este computador.\nUma segunda tarefa de sincronização da mesma pasta ocupa o dobro do espaço em disco.</translation>
+        <translation>Esta pasta do servidor já está sincronizada com este computador.\nUma segunda tarefa de sincronização da mesma pasta ocuparia o dobro do espaço em disco.</translation>
     </message>
     <message>
         <source>Setup was interrupted</source>
@@ -957,7 +957,7 @@
     </message>
     <message>
         <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
-        <translation>O servidor bloqueia o endereço deste computador. Peça ao administrador que o permita.</translation>
+        <translation>O servidor está a bloquear o endereço deste computador. Peça ao administrador que o permita.</translation>
     </message>
     <message>
         <source>Checking your username and password...</source>
@@ -969,11 +969,11 @@
     </message>
     <message>
         <source>Welcome to Lumivo Drive Setup</source>
-        <translation>Bem-vindo à instalação do Lumivo Drive</translation>
+        <translation>Boas-vindas à instalação do Lumivo Drive</translation>
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>O comprimento máximo deste campo é %1.</translation>
+        <translation>Introduza, no máximo, %1 caracteres.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1017,7 +1017,7 @@
     </message>
     <message>
         <source>Watching for changes...</source>
-        <translation>A aguardar alterações...</translation>
+        <translation>A monitorizar as alterações...</translation>
     </message>
     <message>
         <source>Change</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Ficheiros filtrados</translation>
+        <translation>Ficheiros ignorados</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1097,7 +1097,7 @@
     </message>
     <message>
         <source>Welcome back to Lumivo Drive Setup</source>
-        <translation>Bem-vindo de novo à instalação do Lumivo Drive</translation>
+        <translation>Damos-lhe novamente as boas-vindas à instalação do Lumivo Drive</translation>
     </message>
     <message>
         <source>Direct</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Assinalar os ficheiros filtrados com um ícone</translation>
+        <translation>Assinalar os ficheiros ignorados com um ícone</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
-        <translation>Alguns dos ficheiros que têm de ser atualizados estão em utilização.</translation>
+        <translation>Alguns ficheiros que têm de ser atualizados estão em utilização.</translation>
     </message>
     <message>
         <source>Lumivo Drive is ready.</source>
@@ -1209,7 +1209,7 @@
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Bem-vindo</translation>
+        <translation>Boas-vindas</translation>
     </message>
     <message>
         <source>Sync this shared folder</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
-        <translation>O programa de instalação instala o Lumivo Drive neste computador. Clique em “Seguinte” para continuar ou em “Cancelar” para sair da instalação.</translation>
+        <translation>O programa de instalação irá instalar o Lumivo Drive neste computador. Clique em “Seguinte” para continuar ou em “Cancelar” para sair da instalação.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1253,7 +1253,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
-        <translation>Não foi possível verificar o certificado do servidor. Verifique-o nas definições da ligação.</translation>
+        <translation>Não foi possível verificar o certificado do servidor. Consulte-o nas definições da ligação.</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>Não é possível monitorizar as alterações numa unidade de rede. Selecione uma pasta num disco local.</translation>
+        <translation>Não é possível detetar as alterações numa unidade de rede. Selecione uma pasta num disco local.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1401,7 +1401,7 @@
     </message>
     <message>
         <source>File names to skip</source>
-        <translation>Nomes de ficheiros a ignorar</translation>
+        <translation>Nomes de ficheiro a ignorar</translation>
     </message>
     <message>
         <source>Thursday</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>O Lumivo Drive é demasiado antigo. Atualize-o neste computador.</translation>
+        <translation>Esta versão do Lumivo Drive é demasiado antiga. Atualize-a neste computador.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1665,7 +1665,7 @@
     </message>
     <message>
         <source>Keep the version that was changed last</source>
-        <translation>Manter a versão alterada em último lugar</translation>
+        <translation>Manter a versão alterada mais recentemente</translation>
     </message>
     <message>
         <source>Find servers on the local network</source>
@@ -1713,7 +1713,7 @@
     </message>
     <message>
         <source>Welcome to Lumivo Drive</source>
-        <translation>Bem-vindo ao Lumivo Drive</translation>
+        <translation>Boas-vindas ao Lumivo Drive</translation>
     </message>
     <message>
         <source>Set an end date</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Não foi possível verificar o certificado do servidor. Peça ao administrador um certificado válido.</translation>
+        <translation>Não foi possível verificar o certificado do servidor. Peça ao administrador que instale um certificado válido.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>O servidor ainda está a indexar “%1”. Poderá sincronizar a pasta depois.</translation>
+        <translation>O servidor ainda está a indexar “%1”. Poderá sincronizar a pasta quando a indexação terminar.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>O novo idioma será utilizado da próxima vez que o Lumivo Drive for iniciado.</translation>
+        <translation>O novo idioma será aplicado da próxima vez que o Lumivo Drive for iniciado.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
