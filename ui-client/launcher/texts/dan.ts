@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>%1 d ago</source>
-        <translation>for %1 d. siden</translation>
+        <translation>For %1 dg. siden</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Setup was interrupted. Your computer has not been changed.</source>
-        <translation>Installationen blev afbrudt. Din computer er ikke blevet ændret.</translation>
+        <translation>Installationen blev afbrudt. Der er ikke foretaget ændringer på din computer.</translation>
     </message>
     <message>
         <source>Folder not found</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Choose a folder on your server and the local folder to sync it with.</source>
-        <translation>Vælg en mappe på din server og den lokale mappe, som den synkroniseres med.</translation>
+        <translation>Vælg en mappe på din server og den lokale mappe, som den skal synkroniseres med.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>Synkroniseringsretningen passer ikke til rettighederne for denne mappe. Vælg en anden retning.</translation>
+        <translation>Synkroniseringsretningen passer ikke til dine rettigheder til denne mappe. Vælg en anden retning.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server er for gammel. Opdater den på din server.</translation>
+        <translation>Denne version af Lumivo Drive Server er for gammel. Opdater den på din server.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>Do not use a proxy</source>
-        <translation>Brug ikke en proxy</translation>
+        <translation>Brug ingen proxy</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
-        <translation>Mapper, som du fravælger her, fjernes fra denne computer. De bliver på din server.</translation>
+        <translation>Mapper, som du fravælger her, fjernes fra denne computer. De bliver liggende på din server.</translation>
     </message>
     <message>
         <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>Right-click a file in a synced folder to share it or to see its earlier versions.</source>
-        <translation>Højreklik på en fil i en synkroniseret mappe for at dele den eller se dens tidligere versioner.</translation>
+        <translation>Højreklik på en fil i en synkroniseret mappe for at dele den eller se tidligere versioner af den.</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -581,7 +581,7 @@
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation>Anvender indstillingerne…</translation>
+        <translation>Anvender indstillinger…</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Du kan ikke skrive til denne mappe. Vælg en anden mappe, eller ændr dens rettigheder.</translation>
+        <translation>Du kan ikke skrive til denne mappe. Ændr mappens rettigheder, eller vælg en anden mappe.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Følg med i status</translation>
+        <translation>Følg med i synkroniseringsstatus</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server er for gammel til denne computer. Opdater den på din server til version %1 eller nyere.</translation>
+        <translation>Denne version af Lumivo Drive Server er for gammel til Lumivo Drive på denne computer. Opdater den på din server til version %1 eller nyere.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -785,7 +785,7 @@
     </message>
     <message>
         <source>Lets you change which features are installed.</source>
-        <translation>Lader dig ændre, hvilke funktioner der er installeret.</translation>
+        <translation>Her kan du ændre, hvilke funktioner der er installeret.</translation>
     </message>
     <message>
         <source>Do you want to unlink this computer from &quot;%1&quot;?\nThe files that are already on this computer will be kept.</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Luk ikke programmerne (computeren skal genstartes bagefter)</translation>
+        <translation>Luk ikke programmerne (du bliver nødt til at genstarte computeren senere)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>Setup ended prematurely</source>
-        <translation>Installationen sluttede for tidligt</translation>
+        <translation>Installationen blev afsluttet før tid</translation>
     </message>
     <message>
         <source>File sharing through ZephLink is turned off on your server. Ask your administrator to turn it on.</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
-        <translation>Denne mappe på din server synkroniseres allerede med denne computer.\nEndnu en synkroniseringsopgave for mappen optager dobbelt så meget diskplads.</translation>
+        <translation>Denne mappe på din server synkroniseres allerede med denne computer.\nEndnu en synkroniseringsopgave for mappen vil optage dobbelt så meget diskplads.</translation>
     </message>
     <message>
         <source>Setup was interrupted</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>Den maksimale længde for dette felt er %1.</translation>
+        <translation>Indtast højst %1 tegn.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Filtrerede filer</translation>
+        <translation>Udeladte filer</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>Loading shared folders...</source>
-        <translation>Indlæser de delte mapper…</translation>
+        <translation>Indlæser delte mapper…</translation>
     </message>
     <message>
         <source>Unlinking...</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Marker filtrerede filer med et ikon</translation>
+        <translation>Marker udeladte filer med et ikon</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Both versions of files with different contents are kept.</source>
-        <translation>Filer med forskelligt indhold bevares i begge versioner.</translation>
+        <translation>Begge versioner af filer med forskelligt indhold bevares.</translation>
     </message>
     <message>
         <source>This folder is already synced. Do you want to add it again?</source>
@@ -1241,7 +1241,7 @@
     </message>
     <message>
         <source>Setup ended because of an error.\nYour computer has not been changed.</source>
-        <translation>Installationen sluttede på grund af en fejl.\nDin computer er ikke blevet ændret.</translation>
+        <translation>Installationen blev afsluttet på grund af en fejl.\nDer er ikke foretaget ændringer på din computer.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete some files to continue syncing.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>Ændringer på et netværksdrev kan ikke overvåges. Vælg en mappe på en lokal disk.</translation>
+        <translation>Ændringer på et netværksdrev kan ikke registreres. Vælg en mappe på en lokal disk.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation>for %1 t. siden</translation>
+        <translation>For %1 t. siden</translation>
     </message>
     <message>
         <source>Files and folders that match these rules are not synced.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive er for gammel. Opdater programmet på denne computer.</translation>
+        <translation>Denne version af Lumivo Drive er for gammel. Opdater den på denne computer.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1537,7 +1537,7 @@
     </message>
     <message>
         <source>You can bring back a version that you overwrote or deleted.</source>
-        <translation>Du kan hente en version tilbage, som du har overskrevet eller slettet.</translation>
+        <translation>Du kan gendanne en version, som du har overskrevet eller slettet.</translation>
     </message>
     <message>
         <source>Sunday</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation>for %1 min. siden</translation>
+        <translation>For %1 min. siden</translation>
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>Files left to sync: %1</source>
-        <translation>Filer, der mangler synkronisering: %1</translation>
+        <translation>Filer, der mangler at blive synkroniseret: %1</translation>
     </message>
     <message>
         <source>Welcome to Lumivo Drive</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Certifikatet for din server kunne ikke bekræftes. Bed din administrator om et gyldigt certifikat.</translation>
+        <translation>Certifikatet for din server kunne ikke bekræftes. Bed din administrator om at installere et gyldigt certifikat.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1777,7 +1777,7 @@
     </message>
     <message>
         <source>No actions available</source>
-        <translation>Ingen tilgængelig handling</translation>
+        <translation>Ingen tilgængelige handlinger</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>Din server er stadig ved at indeksere ”%1”. Mappen kan synkroniseres bagefter.</translation>
+        <translation>Din server er stadig ved at indeksere ”%1”. Du kan synkronisere mappen, når indekseringen er færdig.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1817,7 +1817,7 @@
     </message>
     <message>
         <source>Loading folders...</source>
-        <translation>Indlæser mapperne…</translation>
+        <translation>Indlæser mapper…</translation>
     </message>
     <message>
         <source>Wednesday</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>Det nye sprog bruges, næste gang Lumivo Drive startes.</translation>
+        <translation>Det nye sprog bruges, næste gang Lumivo Drive starter.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>

@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Setup is ready to install Lumivo Drive on this computer.</source>
-        <translation>Das Installationsprogramm ist bereit, Lumivo Drive auf diesem Computer zu installieren.</translation>
+        <translation>Das Setup ist bereit, Lumivo Drive auf diesem Computer zu installieren.</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>%1 d ago</source>
-        <translation>vor %1 T.</translation>
+        <translation>Vor %1 Tg.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>The folders on your server could not be listed. Check your network connection and try again.</source>
-        <translation>Die Ordner Ihres Servers konnten nicht aufgelistet werden. Prüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
+        <translation>Die Ordner auf Ihrem Server konnten nicht aufgelistet werden. Prüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Needs attention</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>Choose the folders to sync</source>
-        <translation>Wählen Sie die zu synchronisierenden Ordner aus</translation>
+        <translation>Wählen Sie die Ordner aus, die Sie synchronisieren möchten</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Choose a folder on your server and the local folder to sync it with.</source>
-        <translation>Wählen Sie einen Ordner auf Ihrem Server und den lokalen Ordner aus, mit dem er synchronisiert wird.</translation>
+        <translation>Wählen Sie einen Ordner auf Ihrem Server und den lokalen Ordner aus, mit dem er synchronisiert werden soll.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>Die Synchronisierungsrichtung passt nicht zu den Berechtigungen dieses Ordners. Wählen Sie eine andere Richtung.</translation>
+        <translation>Die Synchronisierungsrichtung passt nicht zu Ihren Berechtigungen für diesen Ordner. Wählen Sie eine andere Richtung.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server ist zu alt. Aktualisieren Sie die Anwendung auf Ihrem Server.</translation>
+        <translation>Diese Version von Lumivo Drive Server ist zu alt. Führen Sie auf Ihrem Server ein Update durch.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -441,7 +441,7 @@
     </message>
     <message>
         <source>Setup is applying your choices.</source>
-        <translation>Das Installationsprogramm wendet Ihre Auswahl an.</translation>
+        <translation>Das Setup wendet Ihre Auswahl an.</translation>
     </message>
     <message>
         <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>Enter your server&apos;s address and your account details.</source>
-        <translation>Geben Sie die Adresse Ihres Servers und Ihr Konto ein.</translation>
+        <translation>Geben Sie die Adresse Ihres Servers und Ihre Kontodaten ein.</translation>
     </message>
     <message>
         <source>Let&apos;s get started</source>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>To install Lumivo Drive later, run Setup again.</source>
-        <translation>Um Lumivo Drive später zu installieren, starten Sie das Installationsprogramm erneut.</translation>
+        <translation>Um Lumivo Drive später zu installieren, starten Sie das Setup erneut.</translation>
     </message>
     <message>
         <source>Right-click a file in a synced folder to share it or to see its earlier versions.</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>Diese Version von Lumivo Drive ist zu alt für Ihren Server. Aktualisieren Sie auf Version %1 oder höher.</translation>
+        <translation>Diese Version von Lumivo Drive ist zu alt für Ihren Server. Führen Sie ein Update auf Version %1 oder höher durch.</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -557,7 +557,7 @@
     </message>
     <message>
         <source>Choose what to sync with this computer and where to keep it.</source>
-        <translation>Wählen Sie, was mit diesem Computer synchronisiert und wo es gespeichert werden soll.</translation>
+        <translation>Wählen Sie aus, was mit diesem Computer synchronisiert und wo es gespeichert werden soll.</translation>
     </message>
     <message>
         <source>Uploaded</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Sie haben in diesem Ordner keine Schreibrechte. Wählen Sie einen anderen Ordner aus oder ändern Sie seine Berechtigungen.</translation>
+        <translation>Sie haben keine Schreibberechtigung für diesen Ordner. Ändern Sie die Berechtigungen des Ordners oder wählen Sie einen anderen aus.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Den Status im Blick</translation>
+        <translation>Synchronisierungsstatus im Blick</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update:</source>
-        <translation>Die folgenden Anwendungen verwenden Dateien, die das Installationsprogramm aktualisieren muss:</translation>
+        <translation>Die folgenden Anwendungen verwenden Dateien, die das Setup aktualisieren muss:</translation>
     </message>
     <message>
         <source>Open Lumivo Drive</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Choose the folders, the sync direction and the sync rules yourself.</source>
-        <translation>Ordner, Synchronisierungsrichtung und Synchronisierungsregeln selbst festlegen.</translation>
+        <translation>Legen Sie die Ordner, die Synchronisierungsrichtung und die Synchronisierungsregeln selbst fest.</translation>
     </message>
     <message>
         <source>Repair the installed files</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>This username does not exist on your server. Check it and try again.</source>
-        <translation>Dieser Benutzername ist auf Ihrem Server nicht vorhanden. Prüfen Sie ihn und versuchen Sie es erneut.</translation>
+        <translation>Dieser Benutzername existiert auf Ihrem Server nicht. Prüfen Sie ihn und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Update Lumivo Drive</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server ist zu alt für diesen Computer. Aktualisieren Sie die Anwendung auf Ihrem Server auf Version %1 oder höher.</translation>
+        <translation>Diese Version von Lumivo Drive Server ist zu alt für Lumivo Drive auf diesem Computer. Führen Sie auf Ihrem Server ein Update auf Version %1 oder höher durch.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>This ZephLink ID does not exist. Check it and try again.</source>
-        <translation>Diese ZephLink-ID ist nicht vorhanden. Prüfen Sie sie und versuchen Sie es erneut.</translation>
+        <translation>Diese ZephLink-ID existiert nicht. Prüfen Sie sie und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Do not sync these files</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Anwendungen nicht schließen (der Computer muss danach neu gestartet werden)</translation>
+        <translation>Anwendungen nicht schließen (Sie müssen den Computer später neu starten)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
-        <translation>Dieser Ordner auf Ihrem Server wird bereits mit diesem Computer synchronisiert.\nEine zweite Synchronisierungsaufgabe dafür belegt doppelt so viel Speicherplatz.</translation>
+        <translation>Dieser Ordner auf Ihrem Server wird bereits mit diesem Computer synchronisiert.\nEine zweite Synchronisierungsaufgabe dafür würde doppelt so viel Speicherplatz belegen.</translation>
     </message>
     <message>
         <source>Setup was interrupted</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>Die maximale Länge dieses Felds beträgt %1.</translation>
+        <translation>Geben Sie höchstens %1 Zeichen ein.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Stichwort</translation>
+        <translation>Suchbegriff</translation>
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
@@ -1005,7 +1005,7 @@
     </message>
     <message>
         <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
-        <translation>Das Installationsprogramm kann Lumivo Drive ändern, reparieren oder entfernen. Klicken Sie auf „Weiter“, um fortzufahren.</translation>
+        <translation>Das Setup kann Lumivo Drive ändern, reparieren oder entfernen. Klicken Sie auf „Weiter“, um fortzufahren.</translation>
     </message>
     <message>
         <source>Select a folder on your server and a folder on this computer.</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Gefilterte Dateien</translation>
+        <translation>Übersprungene Dateien</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1125,7 +1125,7 @@
     </message>
     <message>
         <source>Files being synced</source>
-        <translation>Dateien in Synchronisierung</translation>
+        <translation>Dateien, die gerade synchronisiert werden</translation>
     </message>
     <message>
         <source>You can change all settings later.</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Gefilterte Dateien mit einem Symbol kennzeichnen</translation>
+        <translation>Übersprungene Dateien mit einem Symbol kennzeichnen</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
-        <translation>Das Installationsprogramm installiert Lumivo Drive auf diesem Computer. Klicken Sie auf „Weiter“, um fortzufahren, oder auf „Abbrechen“, um das Setup zu beenden.</translation>
+        <translation>Das Setup installiert Lumivo Drive auf diesem Computer. Klicken Sie auf „Weiter“, um fortzufahren, oder auf „Abbrechen“, um das Setup zu beenden.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>Änderungen auf einem Netzlaufwerk können nicht überwacht werden. Wählen Sie einen Ordner auf einem lokalen Datenträger aus.</translation>
+        <translation>Änderungen auf einem Netzlaufwerk können nicht erkannt werden. Wählen Sie einen Ordner auf einem lokalen Datenträger aus.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation>vor %1 Std.</translation>
+        <translation>Vor %1 Std.</translation>
     </message>
     <message>
         <source>Files and folders that match these rules are not synced.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive ist zu alt. Aktualisieren Sie die Anwendung auf diesem Computer.</translation>
+        <translation>Diese Version von Lumivo Drive ist zu alt. Führen Sie auf diesem Computer ein Update durch.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1449,7 +1449,7 @@
     </message>
     <message>
         <source>Show sync status icons on files</source>
-        <translation>Synchronisierungssymbole auf Dateien anzeigen</translation>
+        <translation>Symbole für den Synchronisierungsstatus auf Dateien anzeigen</translation>
     </message>
     <message>
         <source>This field is required.</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation>vor %1 Min.</translation>
+        <translation>Vor %1 Min.</translation>
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
@@ -1673,7 +1673,7 @@
     </message>
     <message>
         <source>Your account is not allowed to sync this folder. Ask your administrator for permission.</source>
-        <translation>Ihr Konto darf diesen Ordner nicht synchronisieren. Bitten Sie Ihren Administrator um die Berechtigung.</translation>
+        <translation>Mit Ihrem Konto dürfen Sie diesen Ordner nicht synchronisieren. Bitten Sie Ihren Administrator um die Berechtigung.</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -1685,7 +1685,7 @@
     </message>
     <message>
         <source>Setup is ready to repair Lumivo Drive.</source>
-        <translation>Das Installationsprogramm ist bereit, Lumivo Drive zu reparieren.</translation>
+        <translation>Das Setup ist bereit, Lumivo Drive zu reparieren.</translation>
     </message>
     <message>
         <source>You can only read this folder. Changes on this computer will not be uploaded.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Das Zertifikat Ihres Servers konnte nicht überprüft werden. Bitten Sie Ihren Administrator um ein gültiges Zertifikat.</translation>
+        <translation>Das Zertifikat Ihres Servers konnte nicht überprüft werden. Bitten Sie Ihren Administrator, ein gültiges zu installieren.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1777,7 +1777,7 @@
     </message>
     <message>
         <source>No actions available</source>
-        <translation>Keine Aktion verfügbar</translation>
+        <translation>Keine Aktionen verfügbar</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>Ihr Server indiziert „%1“ noch. Die Synchronisierung ist danach möglich.</translation>
+        <translation>Ihr Server indiziert „%1“ noch. Sie können den Ordner synchronisieren, sobald die Indizierung abgeschlossen ist.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1813,7 +1813,7 @@
     </message>
     <message>
         <source>Sync your home folder with the recommended settings.</source>
-        <translation>Den persönlichen Ordner mit den empfohlenen Einstellungen synchronisieren.</translation>
+        <translation>Synchronisieren Sie Ihren persönlichen Ordner mit den empfohlenen Einstellungen.</translation>
     </message>
     <message>
         <source>Loading folders...</source>
@@ -1833,7 +1833,7 @@
     </message>
     <message>
         <source>Run Setup again whenever you want to install Lumivo Drive.</source>
-        <translation>Starten Sie das Installationsprogramm erneut, wenn Sie Lumivo Drive installieren möchten.</translation>
+        <translation>Starten Sie das Setup erneut, wenn Sie Lumivo Drive installieren möchten.</translation>
     </message>
     <message>
         <source>Your home folder on the server now syncs with this computer.</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>Die neue Sprache wird beim nächsten Start von Lumivo Drive verwendet.</translation>
+        <translation>Die neue Sprache wird beim nächsten Start von Lumivo Drive wirksam.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>

@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Choose a folder on your server and the local folder to sync it with.</source>
-        <translation>Kies een map op je server en de lokale map waarmee deze wordt gesynchroniseerd.</translation>
+        <translation>Kies een map op je server en de lokale map waarmee je deze wilt synchroniseren.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>De synchronisatierichting komt niet overeen met de machtigingen van deze map. Kies een andere richting.</translation>
+        <translation>De synchronisatierichting komt niet overeen met je machtigingen voor deze map. Kies een andere richting.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server is te oud. Werk de toepassing bij op je server.</translation>
+        <translation>Deze versie van Lumivo Drive Server is te oud. Werk deze bij op je server.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>Enter your server&apos;s address and your account details.</source>
-        <translation>Voer het adres van je server en je account in.</translation>
+        <translation>Voer het adres van je server en je accountgegevens in.</translation>
     </message>
     <message>
         <source>Let&apos;s get started</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>Deze versie van Lumivo Drive is te oud voor je server. Werk bij naar versie %1 of hoger.</translation>
+        <translation>Deze versie van Lumivo Drive is te oud voor je server. Werk deze bij naar versie %1 of hoger.</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Je hebt geen schrijfrechten voor deze map. Selecteer een andere map of wijzig de machtigingen ervan.</translation>
+        <translation>Je kunt niet naar deze map schrijven. Wijzig de machtigingen van de map of selecteer een andere map.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>De status in de gaten houden</translation>
+        <translation>De synchronisatiestatus controleren</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server is te oud voor deze computer. Werk de toepassing op je server bij naar versie %1 of hoger.</translation>
+        <translation>Deze versie van Lumivo Drive Server is te oud voor Lumivo Drive op deze computer. Werk deze op je server bij naar versie %1 of hoger.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>Your account requires two-step verification. Set it up on your server, then sign in again.</source>
-        <translation>Voor je account is verificatie in twee stappen vereist. Stel dit in op je server en meld je daarna opnieuw aan.</translation>
+        <translation>Voor je account is verificatie in twee stappen vereist. Stel deze in op je server en meld je daarna opnieuw aan.</translation>
     </message>
     <message>
         <source>The file service is turned off on your server. Ask your administrator to turn it on.</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>De toepassingen niet sluiten (de computer moet daarna opnieuw worden opgestart)</translation>
+        <translation>De toepassingen niet sluiten (je moet de computer later opnieuw opstarten)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -897,7 +897,7 @@
     </message>
     <message>
         <source>has been shared with you.</source>
-        <translation>is met jou gedeeld.</translation>
+        <translation>is met je gedeeld.</translation>
     </message>
     <message>
         <source>Files in use</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
-        <translation>Deze map op je server wordt al met deze computer gesynchroniseerd.\nEen tweede synchronisatietaak voor deze map neemt twee keer zoveel schijfruimte in beslag.</translation>
+        <translation>Deze map op je server wordt al met deze computer gesynchroniseerd.\nEen tweede synchronisatietaak voor deze map zou twee keer zoveel schijfruimte in beslag nemen.</translation>
     </message>
     <message>
         <source>Setup was interrupted</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>De maximale lengte van dit veld is %1.</translation>
+        <translation>Voer maximaal %1 tekens in.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Trefwoord</translation>
+        <translation>Zoekterm</translation>
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
@@ -1017,7 +1017,7 @@
     </message>
     <message>
         <source>Watching for changes...</source>
-        <translation>Wijzigingen bewaken…</translation>
+        <translation>Controleren op wijzigingen…</translation>
     </message>
     <message>
         <source>Change</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Gefilterde bestanden</translation>
+        <translation>Overgeslagen bestanden</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Gefilterde bestanden met een pictogram markeren</translation>
+        <translation>Overgeslagen bestanden met een pictogram markeren</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>Wijzigingen op een netwerkschijf kunnen niet worden bewaakt. Selecteer een map op een lokale schijf.</translation>
+        <translation>Wijzigingen op een netwerkschijf kunnen niet worden gedetecteerd. Selecteer een map op een lokale schijf.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive is te oud. Werk de toepassing bij op deze computer.</translation>
+        <translation>Deze versie van Lumivo Drive is te oud. Werk deze bij op deze computer.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1449,7 +1449,7 @@
     </message>
     <message>
         <source>Show sync status icons on files</source>
-        <translation>Synchronisatiepictogrammen op bestanden weergeven</translation>
+        <translation>Pictogrammen voor de synchronisatiestatus op bestanden weergeven</translation>
     </message>
     <message>
         <source>This field is required.</source>
@@ -1673,7 +1673,7 @@
     </message>
     <message>
         <source>Your account is not allowed to sync this folder. Ask your administrator for permission.</source>
-        <translation>Je account mag deze map niet synchroniseren. Vraag je beheerder om toestemming.</translation>
+        <translation>Met je account mag je deze map niet synchroniseren. Vraag je beheerder om toestemming.</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -1697,7 +1697,7 @@
     </message>
     <message>
         <source>No entries found</source>
-        <translation>Geen vermeldingen gevonden</translation>
+        <translation>Geen items gevonden</translation>
     </message>
     <message>
         <source>Your files are being synced. You can keep working in the meantime.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Het certificaat van je server kan niet worden geverifieerd. Vraag je beheerder om een geldig certificaat.</translation>
+        <translation>Het certificaat van je server kan niet worden geverifieerd. Vraag je beheerder om een geldig certificaat te installeren.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1777,7 +1777,7 @@
     </message>
     <message>
         <source>No actions available</source>
-        <translation>Geen actie beschikbaar</translation>
+        <translation>Geen acties beschikbaar</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>“%1” wordt nog geïndexeerd op je server. Daarna kan de synchronisatie beginnen.</translation>
+        <translation>“%1” wordt nog geïndexeerd op je server. Je kunt de map synchroniseren zodra het indexeren is voltooid.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>De nieuwe taal wordt gebruikt wanneer Lumivo Drive de volgende keer wordt gestart.</translation>
+        <translation>De nieuwe taal wordt van kracht zodra je Lumivo Drive opnieuw start.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>

@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>%1 d ago</source>
-        <translation>for %1 d siden</translation>
+        <translation>For %1 d siden</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Setup was interrupted. Your computer has not been changed.</source>
-        <translation>Installasjonen ble avbrutt. Datamaskinen din er ikke endret.</translation>
+        <translation>Installasjonen ble avbrutt. Det er ikke gjort noen endringer på datamaskinen din.</translation>
     </message>
     <message>
         <source>Folder not found</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>Synkroniseringsretningen samsvarer ikke med tillatelsene for denne mappen. Velg en annen retning.</translation>
+        <translation>Synkroniseringsretningen samsvarer ikke med tillatelsene dine for denne mappen. Velg en annen retning.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server er for gammel. Oppdater den på serveren din.</translation>
+        <translation>Denne versjonen av Lumivo Drive Server er for gammel. Oppdater den på serveren din.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Du kan ikke skrive til denne mappen. Velg en annen mappe, eller endre tillatelsene for den.</translation>
+        <translation>Du kan ikke skrive til denne mappen. Endre tillatelsene for den, eller velg en annen mappe.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Følg med på statusen</translation>
+        <translation>Følg med på synkroniseringsstatusen</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server er for gammel for denne datamaskinen. Oppdater den på serveren din til versjon %1 eller nyere.</translation>
+        <translation>Denne versjonen av Lumivo Drive Server er for gammel for Lumivo Drive på denne datamaskinen. Oppdater den på serveren din til versjon %1 eller nyere.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -785,7 +785,7 @@
     </message>
     <message>
         <source>Lets you change which features are installed.</source>
-        <translation>Lar deg endre hvilke funksjoner som er installert.</translation>
+        <translation>Her kan du endre hvilke funksjoner som er installert.</translation>
     </message>
     <message>
         <source>Do you want to unlink this computer from &quot;%1&quot;?\nThe files that are already on this computer will be kept.</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Ikke lukk programmene (datamaskinen må startes på nytt etterpå)</translation>
+        <translation>Ikke lukk programmene (du må starte datamaskinen på nytt senere)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
-        <translation>Denne mappen på serveren din synkroniseres allerede med denne datamaskinen.\nEnda en synkroniseringsoppgave for den tar dobbelt så mye diskplass.</translation>
+        <translation>Denne mappen på serveren din synkroniseres allerede med denne datamaskinen.\nEnda en synkroniseringsoppgave for den vil ta dobbelt så mye diskplass.</translation>
     </message>
     <message>
         <source>Setup was interrupted</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>Den maksimale lengden for dette feltet er %1.</translation>
+        <translation>Skriv inn maksimalt %1 tegn.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Nøkkelord</translation>
+        <translation>Søkeord</translation>
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Filtrerte filer</translation>
+        <translation>Filer som hoppes over</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>Loading shared folders...</source>
-        <translation>Laster inn de delte mappene…</translation>
+        <translation>Laster inn delte mapper…</translation>
     </message>
     <message>
         <source>Unlinking...</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Merk filtrerte filer med et ikon</translation>
+        <translation>Vis et ikon på filer som hoppes over</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Both versions of files with different contents are kept.</source>
-        <translation>Filer med forskjellig innhold beholdes i begge versjoner.</translation>
+        <translation>Begge versjonene av filer med ulikt innhold beholdes.</translation>
     </message>
     <message>
         <source>This folder is already synced. Do you want to add it again?</source>
@@ -1241,7 +1241,7 @@
     </message>
     <message>
         <source>Setup ended because of an error.\nYour computer has not been changed.</source>
-        <translation>Installasjonen ble avsluttet på grunn av en feil.\nDatamaskinen din er ikke endret.</translation>
+        <translation>Installasjonen ble avsluttet på grunn av en feil.\nDet er ikke gjort noen endringer på datamaskinen din.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete some files to continue syncing.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>Endringer på en nettverksstasjon kan ikke overvåkes. Velg en mappe på en lokal disk.</translation>
+        <translation>Endringer på en nettverksstasjon kan ikke registreres. Velg en mappe på en lokal disk.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation>for %1 t siden</translation>
+        <translation>For %1 t siden</translation>
     </message>
     <message>
         <source>Files and folders that match these rules are not synced.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive er for gammel. Oppdater programmet på denne datamaskinen.</translation>
+        <translation>Denne versjonen av Lumivo Drive er for gammel. Oppdater den på denne datamaskinen.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation>for %1 min siden</translation>
+        <translation>For %1 min siden</translation>
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Sertifikatet til serveren din kunne ikke bekreftes. Be administratoren om et gyldig sertifikat.</translation>
+        <translation>Sertifikatet til serveren din kunne ikke bekreftes. Be administratoren om å installere et gyldig sertifikat.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1777,7 +1777,7 @@
     </message>
     <message>
         <source>No actions available</source>
-        <translation>Ingen tilgjengelig handling</translation>
+        <translation>Ingen tilgjengelige handlinger</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>Serveren din indekserer fortsatt «%1». Mappen kan synkroniseres etterpå.</translation>
+        <translation>Serveren din indekserer fortsatt «%1». Du kan synkronisere mappen når indekseringen er fullført.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1817,7 +1817,7 @@
     </message>
     <message>
         <source>Loading folders...</source>
-        <translation>Laster inn mappene…</translation>
+        <translation>Laster inn mapper…</translation>
     </message>
     <message>
         <source>Wednesday</source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Mount point not allowed</source>
-        <translation>Monteringspunkt tillåts inte</translation>
+        <translation>Monteringspunkten tillåts inte</translation>
     </message>
     <message>
         <source>Password</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Files with these names will not be synced.</source>
-        <translation>Filer med dessa namn synkroniseras inte.</translation>
+        <translation>Filer med de här namnen synkroniseras inte.</translation>
     </message>
     <message>
         <source>Could not connect to your server. Check your network connection and try again.</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Today</source>
-        <translation>Idag</translation>
+        <translation>I dag</translation>
     </message>
     <message>
         <source>Setup is ready to install Lumivo Drive on this computer.</source>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>No usable folder was found. Ask your administrator for access to a shared folder.</source>
-        <translation>Ingen mapp som kan användas hittades. Be administratören om åtkomst till en delad mapp.</translation>
+        <translation>Ingen användbar mapp hittades. Be administratören om åtkomst till en delad mapp.</translation>
     </message>
     <message>
         <source>Could not enable syncing for this shared folder. Try again later.</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>%1 d ago</source>
-        <translation>för %1 d sedan</translation>
+        <translation>För %1 d sedan</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>Synkroniseringsriktningen stämmer inte med behörigheterna för den här mappen. Välj en annan riktning.</translation>
+        <translation>Synkroniseringsriktningen stämmer inte med dina behörigheter för den här mappen. Välj en annan riktning.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Versionen av Lumivo Drive Server är för gammal. Uppdatera den på din server.</translation>
+        <translation>Den här versionen av Lumivo Drive Server är för gammal. Uppdatera den på din server.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>Enter your server&apos;s address and your account details.</source>
-        <translation>Ange serverns adress och ditt konto.</translation>
+        <translation>Ange serverns adress och dina kontouppgifter.</translation>
     </message>
     <message>
         <source>Let&apos;s get started</source>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>Yesterday</source>
-        <translation>Igår</translation>
+        <translation>I går</translation>
     </message>
     <message>
         <source>Status information</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Du kan inte skriva till den här mappen. Välj en annan mapp eller ändra dess behörigheter.</translation>
+        <translation>Du kan inte skriva till den här mappen. Ändra mappens behörigheter eller välj en annan mapp.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Håll koll på statusen</translation>
+        <translation>Håll koll på synkroniseringsstatusen</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Versionen av Lumivo Drive Server är för gammal för den här datorn. Uppdatera den på din server till version %1 eller senare.</translation>
+        <translation>Den här versionen av Lumivo Drive Server är för gammal för Lumivo Drive på den här datorn. Uppdatera den på din server till version %1 eller senare.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>This ZephLink ID does not exist. Check it and try again.</source>
-        <translation>Detta ZephLink-ID finns inte. Kontrollera det och försök igen.</translation>
+        <translation>Det här ZephLink-ID:t finns inte. Kontrollera det och försök igen.</translation>
     </message>
     <message>
         <source>Do not sync these files</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Stäng inte programmen (datorn måste startas om efteråt)</translation>
+        <translation>Stäng inte programmen (du måste starta om datorn senare)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
-        <translation>Den här mappen på din server synkroniseras redan med den här datorn.\nYtterligare en synkroniseringsuppgift för den tar upp dubbelt så mycket diskutrymme.</translation>
+        <translation>Den här mappen på din server synkroniseras redan med den här datorn.\nYtterligare en synkroniseringsuppgift för den skulle ta upp dubbelt så mycket diskutrymme.</translation>
     </message>
     <message>
         <source>Setup was interrupted</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>Fältets maximala längd är %1.</translation>
+        <translation>Ange högst %1 tecken.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Nyckelord</translation>
+        <translation>Sökord</translation>
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Filtrerade filer</translation>
+        <translation>Överhoppade filer</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Märk filtrerade filer med en ikon</translation>
+        <translation>Märk överhoppade filer med en ikon</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>Ändringar på en nätverksenhet kan inte bevakas. Välj en mapp på en lokal disk.</translation>
+        <translation>Ändringar på en nätverksenhet kan inte upptäckas. Välj en mapp på en lokal disk.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation>för %1 tim sedan</translation>
+        <translation>För %1 tim sedan</translation>
     </message>
     <message>
         <source>Files and folders that match these rules are not synced.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Versionen av Lumivo Drive är för gammal. Uppdatera den på den här datorn.</translation>
+        <translation>Den här versionen av Lumivo Drive är för gammal. Uppdatera den på den här datorn.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation>för %1 min sedan</translation>
+        <translation>För %1 min sedan</translation>
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Certifikatet för din server kunde inte verifieras. Be administratören om ett giltigt certifikat.</translation>
+        <translation>Certifikatet för din server kunde inte verifieras. Be administratören att installera ett giltigt certifikat.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1777,7 +1777,7 @@
     </message>
     <message>
         <source>No actions available</source>
-        <translation>Ingen åtgärd tillgänglig</translation>
+        <translation>Inga tillgängliga åtgärder</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>Din server indexerar fortfarande ”%1”. Därefter kan mappen synkroniseras.</translation>
+        <translation>Din server indexerar fortfarande ”%1”. Du kan synkronisera mappen när indexeringen är klar.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>

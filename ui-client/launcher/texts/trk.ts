@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Choose a setup type</source>
-        <translation>Kurulum biçimini seçin</translation>
+        <translation>Kurulum türünü seçin</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>Eşitleme yönü bu klasörün izinlerine uygun değil. Başka bir yön seçin.</translation>
+        <translation>Eşitleme yönü bu klasördeki izinlerinize uygun değil. Başka bir yön seçin.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server çok eski. Sunucunuzda güncelleyin.</translation>
+        <translation>Bu Lumivo Drive Server sürümü çok eski. Sunucunuzda güncelleyin.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -397,7 +397,7 @@
     </message>
     <message>
         <source>Get link</source>
-        <translation>Bağlantı al</translation>
+        <translation>Paylaşım bağlantısı al</translation>
     </message>
     <message>
         <source>Options</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Bu klasöre yazamazsınız. Başka bir klasör seçin veya klasörün izinlerini değiştirin.</translation>
+        <translation>Bu klasöre yazamazsınız. Klasörün izinlerini değiştirin veya başka bir klasör seçin.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Durumu izleyin</translation>
+        <translation>Eşitleme durumunu izleyin</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server bu bilgisayar için çok eski. Sunucunuzda %1 veya daha yeni bir sürüme güncelleyin.</translation>
+        <translation>Bu Lumivo Drive Server sürümü, bu bilgisayardaki Lumivo Drive uygulaması için çok eski. Sunucunuzda %1 veya daha yeni bir sürüme güncelleyin.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Uygulamaları açık bırak (bilgisayarın sonradan yeniden başlatılması gerekir)</translation>
+        <translation>Uygulamaları açık bırak (bilgisayarı daha sonra yeniden başlatmanız gerekecek)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>Bu alanın uzunluğu en fazla %1 olabilir.</translation>
+        <translation>En fazla %1 karakter girin.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Filtrelenen dosyalar</translation>
+        <translation>Atlanan dosyalar</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Filtrelenen dosyaları simgeyle işaretle</translation>
+        <translation>Atlanan dosyaları simgeyle işaretle</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1205,7 +1205,7 @@
     </message>
     <message>
         <source>A newer version of Lumivo Drive is already installed on this computer. Remove it before you install this version.</source>
-        <translation>Bu bilgisayarda Lumivo Drive uygulamasının daha yeni bir sürümü zaten yüklü. Bu sürümü yüklemeden önce onu kaldırın.</translation>
+        <translation>Bu bilgisayarda Lumivo Drive uygulamasının daha yeni bir sürümü zaten yüklü. Bu sürümü yüklemeden önce daha yeni sürümü kaldırın.</translation>
     </message>
     <message>
         <source>Welcome</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
-        <translation>Kurulum programı Lumivo Drive uygulamasını bu bilgisayara yükler. Devam etmek için İleri’ye, kurulumdan çıkmak için İptal’e tıklayın.</translation>
+        <translation>Kurulum programı, Lumivo Drive uygulamasını bu bilgisayara yükleyecek. Devam etmek için İleri’ye, kurulumdan çıkmak için İptal’e tıklayın.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>Ağ sürücüsündeki değişiklikler izlenemez. Yerel diskteki bir klasörü seçin.</translation>
+        <translation>Ağ sürücüsündeki değişiklikler algılanamaz. Yerel diskteki bir klasörü seçin.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive çok eski. Bu bilgisayarda güncelleyin.</translation>
+        <translation>Bu Lumivo Drive sürümü çok eski. Bu bilgisayarda güncelleyin.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Sunucunuzun sertifikası doğrulanamadı. Yöneticinizden geçerli bir sertifika isteyin.</translation>
+        <translation>Sunucunuzun sertifikası doğrulanamadı. Yöneticinizden geçerli bir sertifika yüklemesini isteyin.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>Sunucunuz hâlâ “%1” klasörünü dizinliyor. Klasör bundan sonra eşitlenebilir.</translation>
+        <translation>Sunucunuz “%1” klasörünü hâlâ dizinliyor. Dizinleme tamamlandığında klasörü eşitleyebilirsiniz.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>Yeni dil, Lumivo Drive bir sonraki kez başlatıldığında kullanılır.</translation>
+        <translation>Yeni dil, Lumivo Drive yeniden başlatıldığında geçerli olur.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
