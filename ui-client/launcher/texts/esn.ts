@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>Selective sync is not available yet. Update Lumivo Drive Server on your server to use it.</source>
-        <translation>La sincronización selectiva aún no está disponible. Actualice Lumivo Drive Server en su servidor para utilizarla.</translation>
+        <translation>La sincronización selectiva aún no está disponible. Para utilizarla, actualice Lumivo Drive Server en su servidor.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>Start now</source>
-        <translation>Iniciar ahora</translation>
+        <translation>Empezar ahora</translation>
     </message>
     <message>
         <source>Search the local network</source>

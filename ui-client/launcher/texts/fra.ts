@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>Selective sync is not available yet. Update Lumivo Drive Server on your server to use it.</source>
-        <translation>La synchronisation sélective n’est pas encore disponible. Mettez à jour Lumivo Drive Server sur votre serveur pour l’utiliser.</translation>
+        <translation>La synchronisation sélective n’est pas encore disponible. Pour l’utiliser, mettez à jour Lumivo Drive Server sur votre serveur.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>Start now</source>
-        <translation>Démarrer maintenant</translation>
+        <translation>Commencer maintenant</translation>
     </message>
     <message>
         <source>Search the local network</source>

@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>Start now</source>
-        <translation>Indítás most</translation>
+        <translation>Kezdés most</translation>
     </message>
     <message>
         <source>Search the local network</source>

@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>Start now</source>
-        <translation>Avvia ora</translation>
+        <translation>Inizia ora</translation>
     </message>
     <message>
         <source>Search the local network</source>
