@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Lumivo Drive Setup</source>
-        <translation>Instalace Lumivo Drive</translation>
+        <translation>Instalace aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Today</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>%1 d ago</source>
-        <translation>před %1 d</translation>
+        <translation>Před %1 d</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>Směr synchronizace neodpovídá oprávněním k této složce. Zvolte jiný směr.</translation>
+        <translation>Směr synchronizace neodpovídá vašim oprávněním k této složce. Zvolte jiný směr.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Verze Lumivo Drive Server je příliš stará. Aktualizujte ji na serveru.</translation>
+        <translation>Tato verze aplikace Lumivo Drive Server je příliš stará. Aktualizujte ji na serveru.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
-        <translation>Složky, jejichž zaškrtnutí zrušíte, budou z tohoto počítače odebrány. Na serveru zůstanou.</translation>
+        <translation>Složky, jejichž zaškrtnutí zde zrušíte, budou z tohoto počítače odebrány. Na serveru zůstanou.</translation>
     </message>
     <message>
         <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>Tato verze Lumivo Drive je pro váš server příliš stará. Aktualizujte ji na verzi %1 nebo novější.</translation>
+        <translation>Tato verze aplikace Lumivo Drive je pro váš server příliš stará. Aktualizujte ji na verzi %1 nebo novější.</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>Something went wrong. Try again later.</source>
-        <translation>Něco se nezdařilo. Zkuste to znovu později.</translation>
+        <translation>Došlo k chybě. Zkuste to znovu později.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>
@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>Selective sync is not available yet. Update Lumivo Drive Server on your server to use it.</source>
-        <translation>Výběrová synchronizace zatím není k dispozici. Chcete-li ji používat, aktualizujte Lumivo Drive Server na serveru.</translation>
+        <translation>Výběrová synchronizace zatím není k dispozici. Chcete-li ji používat, aktualizujte na serveru aplikaci Lumivo Drive Server.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>Ready to remove Lumivo Drive</source>
-        <translation>Připraveno k odebrání Lumivo Drive</translation>
+        <translation>Připraveno k odebrání aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Choose what to sync with this computer and where to keep it.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Do této složky nemůžete zapisovat. Vyberte jinou složku nebo změňte oprávnění k této složce.</translation>
+        <translation>Do této složky nemůžete zapisovat. Změňte oprávnění k této složce nebo vyberte jinou.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Sledujte stav</translation>
+        <translation>Sledujte stav synchronizace</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>Update Lumivo Drive</source>
-        <translation>Aktualizace Lumivo Drive</translation>
+        <translation>Aktualizace aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Learn more</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Verze Lumivo Drive Server je pro tento počítač příliš stará. Aktualizujte ji na serveru na verzi %1 nebo novější.</translation>
+        <translation>Tato verze aplikace Lumivo Drive Server je pro aplikaci Lumivo Drive v tomto počítači příliš stará. Aktualizujte ji na serveru na verzi %1 nebo novější.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Neukončovat aplikace (počítač bude poté nutné restartovat)</translation>
+        <translation>Neukončovat aplikace (počítač bude později nutné restartovat)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>Setup ended prematurely</source>
-        <translation>Instalace skončila předčasně</translation>
+        <translation>Instalace byla předčasně ukončena</translation>
     </message>
     <message>
         <source>File sharing through ZephLink is turned off on your server. Ask your administrator to turn it on.</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
-        <translation>Tato složka na serveru se již s tímto počítačem synchronizuje.\nKvůli druhé úloze synchronizace zabere na disku dvojnásobek místa.</translation>
+        <translation>Tato složka na serveru se již s tímto počítačem synchronizuje.\nKvůli druhé úloze synchronizace by na disku zabírala dvojnásobek místa.</translation>
     </message>
     <message>
         <source>Setup was interrupted</source>
@@ -969,11 +969,11 @@
     </message>
     <message>
         <source>Welcome to Lumivo Drive Setup</source>
-        <translation>Vítá vás instalace Lumivo Drive</translation>
+        <translation>Vítá vás instalační program aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>Maximální délka tohoto pole je %1.</translation>
+        <translation>Maximální počet znaků je %1.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -993,7 +993,7 @@
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
-        <translation>Vytvořit prázdnou složku pro Lumivo Drive</translation>
+        <translation>Vytvořit prázdnou složku pro aplikaci Lumivo Drive</translation>
     </message>
     <message>
         <source>File filter</source>
@@ -1057,11 +1057,11 @@
     </message>
     <message>
         <source>Ready to repair Lumivo Drive</source>
-        <translation>Připraveno k opravě Lumivo Drive</translation>
+        <translation>Připraveno k opravě aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Odfiltrované soubory</translation>
+        <translation>Vynechané soubory</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1097,7 +1097,7 @@
     </message>
     <message>
         <source>Welcome back to Lumivo Drive Setup</source>
-        <translation>Znovu vás vítá instalace Lumivo Drive</translation>
+        <translation>Znovu vás vítá instalační program aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Direct</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Označovat odfiltrované soubory ikonou</translation>
+        <translation>Označovat vynechané soubory ikonou</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1169,11 +1169,11 @@
     </message>
     <message>
         <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
-        <translation>Odpověď serveru se nepodařilo rozpoznat. Aktualizujte Lumivo Drive a zkuste to znovu.</translation>
+        <translation>Odpověď serveru se nepodařilo zpracovat. Aktualizujte aplikaci Lumivo Drive a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the installation of Lumivo Drive?</source>
-        <translation>Opravdu chcete zrušit instalaci Lumivo Drive?</translation>
+        <translation>Opravdu chcete zrušit instalaci aplikace Lumivo Drive?</translation>
     </message>
     <message>
         <source>Port</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message>
         <source>Some files that need to be updated are in use.</source>
-        <translation>Některé soubory, které je nutné aktualizovat, se používají.</translation>
+        <translation>Některé soubory, které je nutné aktualizovat, se právě používají.</translation>
     </message>
     <message>
         <source>Lumivo Drive is ready.</source>
@@ -1205,7 +1205,7 @@
     </message>
     <message>
         <source>A newer version of Lumivo Drive is already installed on this computer. Remove it before you install this version.</source>
-        <translation>V tomto počítači je již nainstalována novější verze Lumivo Drive. Před instalací této verze ji odeberte.</translation>
+        <translation>V tomto počítači je již nainstalována novější verze aplikace Lumivo Drive. Před instalací této verze ji odeberte.</translation>
     </message>
     <message>
         <source>Welcome</source>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation>před %1 h</translation>
+        <translation>Před %1 h</translation>
     </message>
     <message>
         <source>Files and folders that match these rules are not synced.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Verze Lumivo Drive je příliš stará. Aktualizujte ji v tomto počítači.</translation>
+        <translation>Tato verze aplikace Lumivo Drive je příliš stará. Aktualizujte ji v tomto počítači.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1549,7 +1549,7 @@
     </message>
     <message>
         <source>Update required</source>
-        <translation>Vyžadována aktualizace</translation>
+        <translation>Je nutná aktualizace</translation>
     </message>
     <message>
         <source>Sharing</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation>před %1 min</translation>
+        <translation>Před %1 min</translation>
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
@@ -1617,7 +1617,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is already installed. Do you want to install it again?</source>
-        <translation>Tato verze Lumivo Drive je již nainstalována. Chcete ji nainstalovat znovu?</translation>
+        <translation>Tato verze aplikace Lumivo Drive je již nainstalována. Chcete ji nainstalovat znovu?</translation>
     </message>
     <message>
         <source>Set a start date</source>
@@ -1733,11 +1733,11 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Certifikát serveru se nepodařilo ověřit. Požádejte správce o platný certifikát.</translation>
+        <translation>Certifikát serveru se nepodařilo ověřit. Požádejte správce, aby nainstaloval platný certifikát.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
-        <translation>Server byl nahrazen. Propojte tento počítač znovu.</translation>
+        <translation>Server byl vyměněn. Propojte tento počítač znovu.</translation>
     </message>
     <message>
         <source>Follow these steps to link this computer to your server.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>Server ještě indexuje složku „%1“. Potom ji bude možné synchronizovat.</translation>
+        <translation>Server ještě indexuje složku „%1“. Synchronizovat ji můžete po dokončení indexování.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>Ready to install Lumivo Drive</source>
-        <translation>Připraveno k instalaci Lumivo Drive</translation>
+        <translation>Připraveno k instalaci aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Run Setup again whenever you want to install Lumivo Drive.</source>
@@ -1877,11 +1877,11 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>Nový jazyk se použije po příštím spuštění Lumivo Drive.</translation>
+        <translation>Nový jazyk se použije při příštím spuštění aplikace Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
-        <translation>Probíhá instalace Lumivo Drive</translation>
+        <translation>Probíhá instalace aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>

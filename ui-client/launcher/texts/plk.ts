@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Lumivo Drive Setup</source>
-        <translation>Instalator Lumivo Drive</translation>
+        <translation>Instalator aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Today</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>The folders on your server could not be listed. Check your network connection and try again.</source>
-        <translation>Nie udało się wyświetlić listy folderów na serwerze. Sprawdź połączenie sieciowe i spróbuj ponownie.</translation>
+        <translation>Nie udało się pobrać listy folderów z serwera. Sprawdź połączenie sieciowe i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Needs attention</source>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
-        <translation>Certyfikat serwera zmienił się. Sprawdź go, zanim przejdziesz dalej.</translation>
+        <translation>Certyfikat serwera się zmienił. Sprawdź go, zanim przejdziesz dalej.</translation>
     </message>
     <message>
         <source>Last page</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>Kierunek synchronizacji jest niezgodny z uprawnieniami do tego folderu. Wybierz inny kierunek.</translation>
+        <translation>Kierunek synchronizacji jest niezgodny z Twoimi uprawnieniami do tego folderu. Wybierz inny kierunek.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Wersja Lumivo Drive Server jest zbyt stara. Zaktualizuj ją na serwerze.</translation>
+        <translation>Ta wersja aplikacji Lumivo Drive Server jest zbyt stara. Zaktualizuj ją na serwerze.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
-        <translation>Foldery, których zaznaczenie usuniesz, zostaną usunięte z tego komputera. Na serwerze pozostaną.</translation>
+        <translation>Foldery, które tutaj odznaczysz, zostaną usunięte z tego komputera. Na serwerze pozostaną.</translation>
     </message>
     <message>
         <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
@@ -513,15 +513,15 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>Ta wersja Lumivo Drive jest zbyt stara dla tego serwera. Zaktualizuj ją do wersji %1 lub nowszej.</translation>
+        <translation>Ta wersja aplikacji Lumivo Drive jest zbyt stara dla tego serwera. Zaktualizuj ją do wersji %1 lub nowszej.</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
-        <translation>Zmiana, naprawa lub usunięcie Lumivo Drive</translation>
+        <translation>Zmiana, naprawa lub usunięcie aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Connect through ZephLink</source>
-        <translation>Łącz przez ZephLink</translation>
+        <translation>Łącz się przez ZephLink</translation>
     </message>
     <message>
         <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>Selective sync is not available yet. Update Lumivo Drive Server on your server to use it.</source>
-        <translation>Synchronizacja selektywna nie jest jeszcze dostępna. Aby z niej korzystać, zaktualizuj Lumivo Drive Server na serwerze.</translation>
+        <translation>Synchronizacja selektywna nie jest jeszcze dostępna. Aby z niej korzystać, zaktualizuj na serwerze aplikację Lumivo Drive Server.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>Ready to remove Lumivo Drive</source>
-        <translation>Wszystko gotowe do usunięcia Lumivo Drive</translation>
+        <translation>Wszystko gotowe do usunięcia aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Choose what to sync with this computer and where to keep it.</source>
@@ -569,7 +569,7 @@
     </message>
     <message>
         <source>Standby</source>
-        <translation>Oczekiwanie</translation>
+        <translation>W gotowości</translation>
     </message>
     <message>
         <source>OK</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Nie możesz zapisywać w tym folderze. Wybierz inny folder lub zmień jego uprawnienia.</translation>
+        <translation>Nie możesz zapisywać w tym folderze. Zmień jego uprawnienia lub wybierz inny folder.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Obserwuj stan</translation>
+        <translation>Sprawdzaj stan synchronizacji</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>Update Lumivo Drive</source>
-        <translation>Aktualizacja Lumivo Drive</translation>
+        <translation>Aktualizacja aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Learn more</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Wersja Lumivo Drive Server jest zbyt stara dla tego komputera. Zaktualizuj ją na serwerze do wersji %1 lub nowszej.</translation>
+        <translation>Ta wersja aplikacji Lumivo Drive Server jest zbyt stara dla aplikacji Lumivo Drive na tym komputerze. Zaktualizuj ją na serwerze do wersji %1 lub nowszej.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>This ZephLink ID does not exist. Check it and try again.</source>
-        <translation>Ten ZephLink ID nie istnieje. Sprawdź go i spróbuj ponownie.</translation>
+        <translation>Ten identyfikator ZephLink ID nie istnieje. Sprawdź go i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Do not sync these files</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Nie zamykaj aplikacji (komputer będzie trzeba potem uruchomić ponownie)</translation>
+        <translation>Nie zamykaj aplikacji (później trzeba będzie uruchomić komputer ponownie)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>Setup ended prematurely</source>
-        <translation>Instalacja zakończyła się przedwcześnie</translation>
+        <translation>Instalacja została przedwcześnie zakończona</translation>
     </message>
     <message>
         <source>File sharing through ZephLink is turned off on your server. Ask your administrator to turn it on.</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
-        <translation>Ten folder na serwerze jest już synchronizowany z tym komputerem.\nDrugie zadanie synchronizacji sprawi, że zajmie on dwa razy więcej miejsca na dysku.</translation>
+        <translation>Ten folder na serwerze jest już synchronizowany z tym komputerem.\nPrzy drugim zadaniu synchronizacji zajmowałby dwa razy więcej miejsca na dysku.</translation>
     </message>
     <message>
         <source>Setup was interrupted</source>
@@ -969,11 +969,11 @@
     </message>
     <message>
         <source>Welcome to Lumivo Drive Setup</source>
-        <translation>Witamy w instalatorze Lumivo Drive</translation>
+        <translation>Witamy w instalatorze aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>Maksymalna długość tego pola to %1.</translation>
+        <translation>Maksymalna liczba znaków to %1.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -993,7 +993,7 @@
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
-        <translation>Utwórz pusty folder dla Lumivo Drive</translation>
+        <translation>Utwórz pusty folder dla aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>File filter</source>
@@ -1017,7 +1017,7 @@
     </message>
     <message>
         <source>Watching for changes...</source>
-        <translation>Oczekiwanie na zmiany…</translation>
+        <translation>Śledzenie zmian…</translation>
     </message>
     <message>
         <source>Change</source>
@@ -1057,11 +1057,11 @@
     </message>
     <message>
         <source>Ready to repair Lumivo Drive</source>
-        <translation>Wszystko gotowe do naprawy Lumivo Drive</translation>
+        <translation>Wszystko gotowe do naprawy aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Odfiltrowane pliki</translation>
+        <translation>Pomijane pliki</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1097,7 +1097,7 @@
     </message>
     <message>
         <source>Welcome back to Lumivo Drive Setup</source>
-        <translation>Witamy ponownie w instalatorze Lumivo Drive</translation>
+        <translation>Witamy ponownie w instalatorze aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Direct</source>
@@ -1137,11 +1137,11 @@
     </message>
     <message>
         <source>The folder on your server is not mounted. Mount it there and try again.</source>
-        <translation>Folder na serwerze nie jest zamontowany. Zamontuj go i spróbuj ponownie.</translation>
+        <translation>Folder na serwerze nie jest zamontowany. Zamontuj go tam i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Oznaczaj odfiltrowane pliki ikoną</translation>
+        <translation>Oznaczaj pomijane pliki ikoną</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1169,11 +1169,11 @@
     </message>
     <message>
         <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
-        <translation>Nie udało się zinterpretować odpowiedzi serwera. Zaktualizuj Lumivo Drive i spróbuj ponownie.</translation>
+        <translation>Nie udało się zinterpretować odpowiedzi serwera. Zaktualizuj aplikację Lumivo Drive i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the installation of Lumivo Drive?</source>
-        <translation>Czy na pewno chcesz anulować instalację Lumivo Drive?</translation>
+        <translation>Czy na pewno chcesz anulować instalację aplikacji Lumivo Drive?</translation>
     </message>
     <message>
         <source>Port</source>
@@ -1205,7 +1205,7 @@
     </message>
     <message>
         <source>A newer version of Lumivo Drive is already installed on this computer. Remove it before you install this version.</source>
-        <translation>Na tym komputerze jest już zainstalowana nowsza wersja Lumivo Drive. Usuń ją przed zainstalowaniem tej wersji.</translation>
+        <translation>Na tym komputerze jest już zainstalowana nowsza wersja aplikacji Lumivo Drive. Usuń ją przed zainstalowaniem tej wersji.</translation>
     </message>
     <message>
         <source>Welcome</source>
@@ -1233,7 +1233,7 @@
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
-        <translation>Wprowadź adres serwera lub jego ZephLink ID, nazwę użytkownika i hasło.</translation>
+        <translation>Wprowadź adres serwera lub jego identyfikator ZephLink ID, nazwę użytkownika i hasło.</translation>
     </message>
     <message>
         <source>Could not create the folder &quot;%1&quot;. Check its path and your permissions.</source>
@@ -1269,7 +1269,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
-        <translation>Certyfikat serwera zmienił się. Sprawdź go w ustawieniach połączenia.</translation>
+        <translation>Certyfikat serwera się zmienił. Sprawdź go w ustawieniach połączenia.</translation>
     </message>
     <message>
         <source>Encrypt the connection (SSL)</source>
@@ -1285,7 +1285,7 @@
     </message>
     <message>
         <source>Enter the verification code for your account.</source>
-        <translation>Wprowadź kod weryfikacyjny dla swojego konta.</translation>
+        <translation>Wprowadź kod weryfikacyjny swojego konta.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Wersja Lumivo Drive jest zbyt stara. Zaktualizuj ją na tym komputerze.</translation>
+        <translation>Ta wersja aplikacji Lumivo Drive jest zbyt stara. Zaktualizuj ją na tym komputerze.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1589,7 +1589,7 @@
     </message>
     <message>
         <source>Lumivo Drive has no features that can be chosen separately.</source>
-        <translation>Lumivo Drive nie ma funkcji, które można wybrać oddzielnie.</translation>
+        <translation>Aplikacja Lumivo Drive nie ma funkcji, które można wybrać oddzielnie.</translation>
     </message>
     <message>
         <source>Value</source>
@@ -1617,7 +1617,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is already installed. Do you want to install it again?</source>
-        <translation>Ta wersja Lumivo Drive jest już zainstalowana. Czy chcesz zainstalować ją ponownie?</translation>
+        <translation>Ta wersja aplikacji Lumivo Drive jest już zainstalowana. Czy chcesz zainstalować ją ponownie?</translation>
     </message>
     <message>
         <source>Set a start date</source>
@@ -1629,7 +1629,7 @@
     </message>
     <message>
         <source>This shared folder is not mounted on your server. Mount it there and try again.</source>
-        <translation>Ten folder udostępniony nie jest zamontowany na serwerze. Zamontuj go i spróbuj ponownie.</translation>
+        <translation>Ten folder udostępniony nie jest zamontowany na serwerze. Zamontuj go tam i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -1657,7 +1657,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
-        <translation>Certyfikat serwera zmienił się.\nKontynuuj tylko wtedy, gdy wiesz dlaczego.</translation>
+        <translation>Certyfikat serwera się zmienił.\nKontynuuj tylko wtedy, gdy wiesz dlaczego.</translation>
     </message>
     <message>
         <source>Maximum file size (MB)</source>
@@ -1713,7 +1713,7 @@
     </message>
     <message>
         <source>Welcome to Lumivo Drive</source>
-        <translation>Witamy w Lumivo Drive</translation>
+        <translation>Witamy w aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Set an end date</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Nie udało się zweryfikować certyfikatu serwera. Poproś administratora o ważny certyfikat.</translation>
+        <translation>Nie udało się zweryfikować certyfikatu serwera. Poproś administratora o zainstalowanie ważnego certyfikatu.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>Serwer nadal indeksuje folder „%1”. Potem będzie można go synchronizować.</translation>
+        <translation>Serwer nadal indeksuje folder „%1”. Będzie można go synchronizować po zakończeniu indeksowania.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>Ready to install Lumivo Drive</source>
-        <translation>Wszystko gotowe do instalacji Lumivo Drive</translation>
+        <translation>Wszystko gotowe do instalacji aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Run Setup again whenever you want to install Lumivo Drive.</source>
@@ -1841,7 +1841,7 @@
     </message>
     <message>
         <source>Server overview</source>
-        <translation>Przegląd serwera</translation>
+        <translation>Informacje o serwerze</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -1877,11 +1877,11 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>Nowy język będzie używany po następnym uruchomieniu Lumivo Drive.</translation>
+        <translation>Nowy język zostanie użyty przy następnym uruchomieniu aplikacji Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
-        <translation>Instalowanie Lumivo Drive</translation>
+        <translation>Instalowanie aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>

@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Setup is ready to install Lumivo Drive on this computer.</source>
-        <translation>Программа установки готова установить Lumivo Drive на этот компьютер.</translation>
+        <translation>Можно начинать установку Lumivo Drive на этот компьютер.</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
-        <translation>Папка «%1» является точкой монтирования и не может быть синхронизирована. Выберите другую папку.</translation>
+        <translation>Папка «%1» — точка монтирования, ее нельзя синхронизировать. Выберите другую папку.</translation>
     </message>
     <message>
         <source>This computer is already linked to &quot;%1&quot;. Edit the existing connection instead.</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>The folders on your server could not be listed. Check your network connection and try again.</source>
-        <translation>Не удалось получить список папок сервера. Проверьте подключение к сети и повторите попытку.</translation>
+        <translation>Не удалось получить список папок на сервере. Проверьте подключение к сети и повторите попытку.</translation>
     </message>
     <message>
         <source>Needs attention</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Setup was interrupted. Your computer has not been changed.</source>
-        <translation>Установка была прервана. Компьютер остался без изменений.</translation>
+        <translation>Установка прервана. На компьютере ничего не изменено.</translation>
     </message>
     <message>
         <source>Folder not found</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>Направление синхронизации не соответствует правам доступа к этой папке. Выберите другое направление.</translation>
+        <translation>Направление синхронизации не соответствует вашим правам доступа к этой папке. Выберите другое направление.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Версия Lumivo Drive Server устарела. Обновите ее на сервере.</translation>
+        <translation>Эта версия Lumivo Drive Server устарела. Обновите ее на сервере.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -473,11 +473,11 @@
     </message>
     <message>
         <source>Let&apos;s get started</source>
-        <translation>Давайте начнем</translation>
+        <translation>Начало работы</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
-        <translation>Нет изменений, которые нужно сохранить.</translation>
+        <translation>Нет изменений для сохранения.</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>Right-click a file in a synced folder to share it or to see its earlier versions.</source>
-        <translation>Щелкните файл в синхронизируемой папке правой кнопкой мыши, чтобы поделиться им или посмотреть его предыдущие версии.</translation>
+        <translation>Щелкните правой кнопкой мыши файл в синхронизируемой папке, чтобы поделиться им или посмотреть его предыдущие версии.</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>Запись в эту папку невозможна. Выберите другую папку или измените права доступа к ней.</translation>
+        <translation>Запись в эту папку невозможна. Измените права доступа к ней или выберите другую папку.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>Следите за состоянием</translation>
+        <translation>Следите за состоянием синхронизации</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Версия Lumivo Drive Server слишком старая для этого компьютера. Обновите ее на сервере до версии %1 или более поздней.</translation>
+        <translation>Эта версия Lumivo Drive Server устарела и не подходит для Lumivo Drive на этом компьютере. Обновите ее на сервере до версии %1 или более поздней.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -841,11 +841,11 @@
     </message>
     <message>
         <source>Add a sync task</source>
-        <translation>Добавить задание синхронизации</translation>
+        <translation>Добавьте задание синхронизации</translation>
     </message>
     <message>
         <source>Share with others</source>
-        <translation>Делитесь с другими</translation>
+        <translation>Делитесь файлами с другими</translation>
     </message>
     <message>
         <source>Locked file</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>Не закрывать приложения (затем потребуется перезагрузить компьютер)</translation>
+        <translation>Не закрывать приложения (позже потребуется перезагрузить компьютер)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>Максимальная длина этого поля: %1.</translation>
+        <translation>Максимальное количество символов: %1.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>Отфильтрованные файлы</translation>
+        <translation>Пропускаемые файлы</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1097,7 +1097,7 @@
     </message>
     <message>
         <source>Welcome back to Lumivo Drive Setup</source>
-        <translation>С возвращением в программу установки Lumivo Drive</translation>
+        <translation>Вас снова приветствует программа установки Lumivo Drive</translation>
     </message>
     <message>
         <source>Direct</source>
@@ -1137,11 +1137,11 @@
     </message>
     <message>
         <source>The folder on your server is not mounted. Mount it there and try again.</source>
-        <translation>Папка на сервере не смонтирована. Смонтируйте ее и повторите попытку.</translation>
+        <translation>Папка на сервере не смонтирована. Смонтируйте ее там и повторите попытку.</translation>
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>Помечать отфильтрованные файлы значком</translation>
+        <translation>Помечать пропускаемые файлы значком</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
-        <translation>Программа установки установит Lumivo Drive на этот компьютер. Нажмите «Далее», чтобы продолжить, или «Отмена», чтобы выйти из программы установки.</translation>
+        <translation>Программа установит Lumivo Drive на этот компьютер. Нажмите «Далее», чтобы продолжить, или «Отмена», чтобы выйти из программы установки.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1241,7 +1241,7 @@
     </message>
     <message>
         <source>Setup ended because of an error.\nYour computer has not been changed.</source>
-        <translation>Установка прекращена из-за ошибки.\nКомпьютер остался без изменений.</translation>
+        <translation>Установка прекращена из-за ошибки.\nНа компьютере ничего не изменено.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete some files to continue syncing.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Версия Lumivo Drive устарела. Обновите ее на этом компьютере.</translation>
+        <translation>Эта версия Lumivo Drive устарела. Обновите ее на этом компьютере.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1517,7 +1517,7 @@
     </message>
     <message>
         <source>Too many failed attempts. Wait a few minutes and try again.</source>
-        <translation>Слишком много неудачных попыток. Подождите несколько минут и попробуйте снова.</translation>
+        <translation>Слишком много неудачных попыток. Подождите несколько минут и повторите попытку.</translation>
     </message>
     <message>
         <source>September</source>
@@ -1597,7 +1597,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
-        <translation>Вы вошли в систему не как администратор. Приложение Lumivo Drive будет установлено только для вас.\nПродолжить?</translation>
+        <translation>Вы вошли в систему без прав администратора. Приложение Lumivo Drive будет установлено только для вас.\nПродолжить?</translation>
     </message>
     <message>
         <source>Links cannot be created because the file service is turned off. Ask your administrator to turn it on.</source>
@@ -1629,7 +1629,7 @@
     </message>
     <message>
         <source>This shared folder is not mounted on your server. Mount it there and try again.</source>
-        <translation>Эта общая папка не смонтирована на сервере. Смонтируйте ее и повторите попытку.</translation>
+        <translation>Эта общая папка не смонтирована на сервере. Смонтируйте ее там и повторите попытку.</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -1685,7 +1685,7 @@
     </message>
     <message>
         <source>Setup is ready to repair Lumivo Drive.</source>
-        <translation>Программа установки готова восстановить Lumivo Drive.</translation>
+        <translation>Можно начинать восстановление Lumivo Drive.</translation>
     </message>
     <message>
         <source>You can only read this folder. Changes on this computer will not be uploaded.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Не удалось проверить сертификат сервера. Попросите у администратора действительный сертификат.</translation>
+        <translation>Не удалось проверить сертификат сервера. Попросите администратора установить действительный сертификат.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
-        <translation>Сервер еще индексирует папку «%1». После этого ее можно будет синхронизировать.</translation>
+        <translation>Сервер еще индексирует папку «%1». Ее можно будет синхронизировать после завершения индексации.</translation>
     </message>
     <message>
         <source>When a file has been changed in two places</source>
@@ -1841,7 +1841,7 @@
     </message>
     <message>
         <source>Server overview</source>
-        <translation>Обзор сервера</translation>
+        <translation>Сведения о сервере</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -1877,11 +1877,11 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>Новый язык будет использоваться после следующего запуска Lumivo Drive.</translation>
+        <translation>Новый язык будет применен при следующем запуске Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
-        <translation>Установка Lumivo Drive</translation>
+        <translation>Выполняется установка Lumivo Drive</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
@@ -1889,7 +1889,7 @@
     </message>
     <message>
         <source>Quick setup suits most users. You can change everything later.</source>
-        <translation>Быстрая настройка подходит большинству пользователей. Позже все можно изменить.</translation>
+        <translation>Быстрая настройка подходит большинству пользователей. Позже все можно будет изменить.</translation>
     </message>
     <message>
         <source>Your server&apos;s disk is full.</source>
