@@ -5,7 +5,7 @@
     <name>global</name>
     <message>
         <source>Select the local folder that you want to sync with your server.</source>
-        <translation>选择要与您的服务器同步的本地文件夹。</translation>
+        <translation>请选择要与您的服务器同步的本地文件夹。</translation>
     </message>
     <message>
         <source>Could not reach the ZephLink service. Check your network connection and try again.</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Choose a folder on your server and the local folder to sync it with.</source>
-        <translation>选择您服务器上的文件夹以及与其同步的本地文件夹。</translation>
+        <translation>请选择您服务器上的文件夹，以及要与其同步的本地文件夹。</translation>
     </message>
     <message>
         <source>Status</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>同步方向与此文件夹的权限不匹配。请选择其他方向。</translation>
+        <translation>同步方向与您对此文件夹的权限不匹配。请选择其他方向。</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server 版本过旧。请在您的服务器上进行更新。</translation>
+        <translation>当前 Lumivo Drive Server 版本过旧。请在您的服务器上进行更新。</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -469,11 +469,11 @@
     </message>
     <message>
         <source>Enter your server&apos;s address and your account details.</source>
-        <translation>请输入您的服务器地址和账号。</translation>
+        <translation>请输入您的服务器地址和账号信息。</translation>
     </message>
     <message>
         <source>Let&apos;s get started</source>
-        <translation>让我们开始吧</translation>
+        <translation>开始使用</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>此版本的 Lumivo Drive 对您的服务器来说过旧。请更新到 %1 或更高版本。</translation>
+        <translation>当前 Lumivo Drive 版本对您的服务器来说过旧。请更新到 %1 或更高版本。</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -557,7 +557,7 @@
     </message>
     <message>
         <source>Choose what to sync with this computer and where to keep it.</source>
-        <translation>选择要与这台电脑同步的内容及其存放位置。</translation>
+        <translation>请选择要与这台电脑同步的内容及其存放位置。</translation>
     </message>
     <message>
         <source>Uploaded</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>您无法写入此文件夹。请选择其他文件夹或更改其权限。</translation>
+        <translation>您无法写入此文件夹。请更改其权限或选择其他文件夹。</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Choose the folders, the sync direction and the sync rules yourself.</source>
-        <translation>自行选择文件夹、同步方向和同步规则。</translation>
+        <translation>请自行选择文件夹、同步方向和同步规则。</translation>
     </message>
     <message>
         <source>Repair the installed files</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>This folder is already synced by another cloud sync app. Select another folder to avoid conflicts.</source>
-        <translation>此文件夹已由其他云同步应用进行同步。请选择其他文件夹以避免冲突。</translation>
+        <translation>其他云同步应用已在同步此文件夹。请选择其他文件夹以避免冲突。</translation>
     </message>
     <message>
         <source>Size</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server 对这台电脑来说版本过旧。请在您的服务器上更新到 %1 或更高版本。</translation>
+        <translation>当前 Lumivo Drive Server 版本对这台电脑上的 Lumivo Drive 来说过旧。请在您的服务器上更新到 %1 或更高版本。</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>不关闭应用程序（之后必须重启电脑）</translation>
+        <translation>不关闭应用程序（稍后需要重启电脑）</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>此项的最大长度为 %1。</translation>
+        <translation>最多可输入 %1 个字符。</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1009,7 +1009,7 @@
     </message>
     <message>
         <source>Select a folder on your server and a folder on this computer.</source>
-        <translation>选择您服务器上的文件夹和这台电脑上的文件夹。</translation>
+        <translation>请选择您服务器上的文件夹和这台电脑上的文件夹。</translation>
     </message>
     <message>
         <source>Enter the address and port of the proxy server.</source>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>Select what you want to do.</source>
-        <translation>选择您要执行的操作。</translation>
+        <translation>请选择您要执行的操作。</translation>
     </message>
     <message>
         <source>Home folders are turned off on your server. Ask your administrator to turn them on.</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>已过滤的文件</translation>
+        <translation>已跳过的文件</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>用图标标记已过滤的文件</translation>
+        <translation>用图标标记已跳过的文件</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>无法监视网络驱动器上的更改。请选择本地磁盘上的文件夹。</translation>
+        <translation>无法检测网络驱动器上的更改。请选择本地磁盘上的文件夹。</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1341,7 +1341,7 @@
     </message>
     <message>
         <source>Do you want to stop syncing &quot;%1&quot; with &quot;%2&quot;?\nNo files will be deleted.</source>
-        <translation>要停止同步“%1”与“%2”吗？\n不会删除任何文件。</translation>
+        <translation>要停止“%1”与“%2”的同步吗？\n不会删除任何文件。</translation>
     </message>
     <message>
         <source>Change local folder</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive 版本过旧。请在这台电脑上进行更新。</translation>
+        <translation>当前 Lumivo Drive 版本过旧。请在这台电脑上进行更新。</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>无法验证您服务器的证书。请联系管理员获取有效的证书。</translation>
+        <translation>无法验证您服务器的证书。请联系管理员安装有效的证书。</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>新语言将在下次启动 Lumivo Drive 后生效。</translation>
+        <translation>新语言将在下次启动 Lumivo Drive 时生效。</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>

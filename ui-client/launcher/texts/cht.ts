@@ -5,7 +5,7 @@
     <name>global</name>
     <message>
         <source>Select the local folder that you want to sync with your server.</source>
-        <translation>選擇要與您的伺服器同步的本機資料夾。</translation>
+        <translation>請選擇要與您的伺服器同步的本機資料夾。</translation>
     </message>
     <message>
         <source>Could not reach the ZephLink service. Check your network connection and try again.</source>
@@ -265,7 +265,7 @@
     </message>
     <message>
         <source>Choose a folder on your server and the local folder to sync it with.</source>
-        <translation>選擇您伺服器上的資料夾，以及要與其同步的本機資料夾。</translation>
+        <translation>請選擇您伺服器上的資料夾，以及要與其同步的本機資料夾。</translation>
     </message>
     <message>
         <source>Status</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>同步方向與此資料夾的權限不符。請選擇其他方向。</translation>
+        <translation>同步方向與您對此資料夾的權限不符。請選擇其他方向。</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server 版本過舊。請在您的伺服器上更新。</translation>
+        <translation>目前的 Lumivo Drive Server 版本過舊。請在您的伺服器上更新。</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -469,11 +469,11 @@
     </message>
     <message>
         <source>Enter your server&apos;s address and your account details.</source>
-        <translation>請輸入您伺服器的位址和您的帳號。</translation>
+        <translation>請輸入您伺服器的位址和您的帳號資訊。</translation>
     </message>
     <message>
         <source>Let&apos;s get started</source>
-        <translation>讓我們開始吧</translation>
+        <translation>開始使用</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>此版本的 Lumivo Drive 對您的伺服器而言過舊。請更新到 %1 或更新的版本。</translation>
+        <translation>目前的 Lumivo Drive 版本對您的伺服器而言過舊。請更新到 %1 或更新的版本。</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
-        <translation>按一下「安裝」即可開始。按一下「上一步」檢視或變更您的選擇。按一下「取消」離開安裝程式。</translation>
+        <translation>按一下「安裝」即可開始。按一下「上一步」檢視或變更您的選擇。按一下「取消」結束安裝程式。</translation>
     </message>
     <message>
         <source>Something went wrong. Try again later.</source>
@@ -557,7 +557,7 @@
     </message>
     <message>
         <source>Choose what to sync with this computer and where to keep it.</source>
-        <translation>選擇要與這台電腦同步的內容，以及存放的位置。</translation>
+        <translation>請選擇要與這台電腦同步的內容，以及存放的位置。</translation>
     </message>
     <message>
         <source>Uploaded</source>
@@ -601,11 +601,11 @@
     </message>
     <message>
         <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
-        <translation>按一下「修復」即可開始。按一下「上一步」檢視您的選擇。按一下「取消」離開安裝程式。</translation>
+        <translation>按一下「修復」即可開始。按一下「上一步」檢視您的選擇。按一下「取消」結束安裝程式。</translation>
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>您無法寫入此資料夾。請選擇其他資料夾或變更其權限。</translation>
+        <translation>您無法寫入此資料夾。請變更其權限或選擇其他資料夾。</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Choose the folders, the sync direction and the sync rules yourself.</source>
-        <translation>自行選擇資料夾、同步方向和同步規則。</translation>
+        <translation>請自行選擇資料夾、同步方向和同步規則。</translation>
     </message>
     <message>
         <source>Repair the installed files</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>This folder is already synced by another cloud sync app. Select another folder to avoid conflicts.</source>
-        <translation>此資料夾已由另一個雲端同步應用程式進行同步。請選擇其他資料夾以避免衝突。</translation>
+        <translation>另一個雲端同步應用程式已在同步此資料夾。請選擇其他資料夾以避免衝突。</translation>
     </message>
     <message>
         <source>Size</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server 對這台電腦而言版本過舊。請在您的伺服器上更新到 %1 或更新的版本。</translation>
+        <translation>目前的 Lumivo Drive Server 版本對這台電腦上的 Lumivo Drive 而言過舊。請在您的伺服器上更新到 %1 或更新的版本。</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -853,7 +853,7 @@
     </message>
     <message>
         <source>Do not close the applications (you will have to restart the computer later)</source>
-        <translation>不要關閉應用程式（之後必須重新啟動電腦）</translation>
+        <translation>不要關閉應用程式（稍後必須重新啟動電腦）</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Click Finish to exit Setup.</source>
-        <translation>按一下「完成」離開安裝程式。</translation>
+        <translation>按一下「完成」結束安裝程式。</translation>
     </message>
     <message>
         <source>Name</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>此欄位的長度上限為 %1。</translation>
+        <translation>最多可輸入 %1 個字元。</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1009,7 +1009,7 @@
     </message>
     <message>
         <source>Select a folder on your server and a folder on this computer.</source>
-        <translation>選擇您伺服器上的資料夾和這台電腦上的資料夾。</translation>
+        <translation>請選擇您伺服器上的資料夾和這台電腦上的資料夾。</translation>
     </message>
     <message>
         <source>Enter the address and port of the proxy server.</source>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>Select what you want to do.</source>
-        <translation>選擇您要執行的作業。</translation>
+        <translation>請選擇您要執行的作業。</translation>
     </message>
     <message>
         <source>Home folders are turned off on your server. Ask your administrator to turn them on.</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>Skipped files</source>
-        <translation>已篩除的檔案</translation>
+        <translation>已略過的檔案</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
-        <translation>按一下「移除」從這台電腦移除 Lumivo Drive。按一下「上一步」檢視您的選擇。按一下「取消」離開安裝程式。</translation>
+        <translation>按一下「移除」從這台電腦移除 Lumivo Drive。按一下「上一步」檢視您的選擇。按一下「取消」結束安裝程式。</translation>
     </message>
     <message>
         <source>Welcome back to Lumivo Drive Setup</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Mark skipped files with an icon</source>
-        <translation>以圖示標示已篩除的檔案</translation>
+        <translation>以圖示標示已略過的檔案</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
-        <translation>安裝程式將在這台電腦上安裝 Lumivo Drive。按一下「下一步」繼續，或按一下「取消」離開安裝程式。</translation>
+        <translation>安裝程式將在這台電腦上安裝 Lumivo Drive。按一下「下一步」繼續，或按一下「取消」結束安裝程式。</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>無法監看網路磁碟機上的變更。請選擇本機磁碟上的資料夾。</translation>
+        <translation>無法偵測網路磁碟機上的變更。請選擇本機磁碟上的資料夾。</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1341,7 +1341,7 @@
     </message>
     <message>
         <source>Do you want to stop syncing &quot;%1&quot; with &quot;%2&quot;?\nNo files will be deleted.</source>
-        <translation>要停止同步「%1」與「%2」嗎？\n不會刪除任何檔案。</translation>
+        <translation>要停止「%1」與「%2」的同步嗎？\n不會刪除任何檔案。</translation>
     </message>
     <message>
         <source>Change local folder</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive 版本過舊。請在這台電腦上更新。</translation>
+        <translation>目前的 Lumivo Drive 版本過舊。請在這台電腦上更新。</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>無法驗證您伺服器的憑證。請洽系統管理員取得有效的憑證。</translation>
+        <translation>無法驗證您伺服器的憑證。請洽系統管理員安裝有效的憑證。</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Follow these steps to link this computer to your server.</source>
-        <translation>依照下列步驟將這台電腦連結到您的伺服器。</translation>
+        <translation>請依照下列步驟將這台電腦連結到您的伺服器。</translation>
     </message>
     <message>
         <source>Proxy server</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>新語言將在下次啟動 Lumivo Drive 後生效。</translation>
+        <translation>新語言將在下次啟動 Lumivo Drive 時生效。</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>

@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>This computer is already linked to &quot;%1&quot;. Edit the existing connection instead.</source>
-        <translation>このコンピューターはすでに「%1」にリンクされています。代わりに既存の接続を編集してください。</translation>
+        <translation>このコンピューターはすでに「%1」にリンクされています。既存の接続を編集してください。</translation>
     </message>
     <message>
         <source>Update available</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>The folders on your server could not be listed. Check your network connection and try again.</source>
-        <translation>サーバーのフォルダーを一覧表示できませんでした。ネットワーク接続を確認して、もう一度お試しください。</translation>
+        <translation>サーバー上のフォルダーを一覧表示できませんでした。ネットワーク接続を確認して、もう一度お試しください。</translation>
     </message>
     <message>
         <source>Needs attention</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Setup was interrupted. Your computer has not been changed.</source>
-        <translation>セットアップが中断されました。コンピューターは変更されていません。</translation>
+        <translation>セットアップが中断されました。コンピューターに変更は加えられていません。</translation>
     </message>
     <message>
         <source>Folder not found</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>同期の方向がこのフォルダーの権限と一致しません。別の方向を選択してください。</translation>
+        <translation>同期の方向が、このフォルダーに対する権限と一致しません。別の方向を選択してください。</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server のバージョンが古すぎます。サーバーで更新してください。</translation>
+        <translation>このバージョンの Lumivo Drive Server は古すぎます。サーバーで更新してください。</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -469,11 +469,11 @@
     </message>
     <message>
         <source>Enter your server&apos;s address and your account details.</source>
-        <translation>サーバーのアドレスとアカウントを入力してください。</translation>
+        <translation>サーバーのアドレスとアカウント情報を入力してください。</translation>
     </message>
     <message>
         <source>Let&apos;s get started</source>
-        <translation>さあ、始めましょう</translation>
+        <translation>始めましょう</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>このフォルダーには書き込めません。別のフォルダーを選択するか、権限を変更してください。</translation>
+        <translation>このフォルダーには書き込めません。フォルダーの権限を変更するか、別のフォルダーを選択してください。</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>ステータスを確認</translation>
+        <translation>同期ステータスを確認</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server のバージョンが古すぎるため、このコンピューターでは使用できません。サーバーでバージョン %1 以降に更新してください。</translation>
+        <translation>このバージョンの Lumivo Drive Server は古すぎるため、このコンピューターの Lumivo Drive では使用できません。サーバーでバージョン %1 以降に更新してください。</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
-        <translation>サーバー上のこのフォルダーは、すでにこのコンピューターと同期されています。\n2 つ目の同期タスクを追加すると、ディスク容量が二重に使用されます。</translation>
+        <translation>サーバー上のこのフォルダーは、すでにこのコンピューターと同期されています。\n2 つ目の同期タスクを追加すると、ディスク容量が 2 倍必要になります。</translation>
     </message>
     <message>
         <source>Setup was interrupted</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>この項目の最大文字数は %1 です。</translation>
+        <translation>%1 文字以内で入力してください。</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1241,7 +1241,7 @@
     </message>
     <message>
         <source>Setup ended because of an error.\nYour computer has not been changed.</source>
-        <translation>エラーのためセットアップが終了しました。\nコンピューターは変更されていません。</translation>
+        <translation>エラーのためセットアップが終了しました。\nコンピューターに変更は加えられていません。</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete some files to continue syncing.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>ネットワークドライブ上の変更は監視できません。ローカルディスク上のフォルダーを選択してください。</translation>
+        <translation>ネットワークドライブ上の変更は検出できません。ローカルディスク上のフォルダーを選択してください。</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive のバージョンが古すぎます。このコンピューターで更新してください。</translation>
+        <translation>このバージョンの Lumivo Drive は古すぎます。このコンピューターで更新してください。</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1537,7 +1537,7 @@
     </message>
     <message>
         <source>You can bring back a version that you overwrote or deleted.</source>
-        <translation>上書きまたは削除したバージョンを元に戻すことができます。</translation>
+        <translation>上書きまたは削除したバージョンを復元できます。</translation>
     </message>
     <message>
         <source>Sunday</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>サーバーの証明書を検証できませんでした。有効な証明書を用意するよう管理者に依頼してください。</translation>
+        <translation>サーバーの証明書を検証できませんでした。有効な証明書をインストールするよう管理者に依頼してください。</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1833,7 +1833,7 @@
     </message>
     <message>
         <source>Run Setup again whenever you want to install Lumivo Drive.</source>
-        <translation>Lumivo Drive をインストールする場合は、いつでもセットアッププログラムをもう一度実行できます。</translation>
+        <translation>Lumivo Drive をインストールするときは、いつでもセットアッププログラムをもう一度実行してください。</translation>
     </message>
     <message>
         <source>Your home folder on the server now syncs with this computer.</source>
@@ -1877,7 +1877,7 @@
     </message>
     <message>
         <source>The new language takes effect the next time Lumivo Drive starts.</source>
-        <translation>新しい言語は Lumivo Drive の次回起動時から使用されます。</translation>
+        <translation>新しい言語は、次に Lumivo Drive を起動したときから適用されます。</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>

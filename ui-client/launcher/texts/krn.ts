@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>This computer is already linked to &quot;%1&quot;. Edit the existing connection instead.</source>
-        <translation>이 컴퓨터는 이미 “%1” 서버에 연결되어 있습니다. 대신 기존 연결을 편집하십시오.</translation>
+        <translation>이 컴퓨터는 이미 “%1” 서버와 연동되어 있습니다. 기존 연결을 편집하십시오.</translation>
     </message>
     <message>
         <source>Update available</source>
@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Unlink</source>
-        <translation>연결 해제</translation>
+        <translation>연동 해제</translation>
     </message>
     <message>
         <source>This folder overlaps with the folder of another sync task. Select another folder.</source>
@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified.</source>
-        <translation>서버의 인증서를 확인할 수 없습니다.</translation>
+        <translation>서버의 인증서를 검증할 수 없습니다.</translation>
     </message>
     <message>
         <source>Please wait. This may take several minutes.</source>
@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
-        <translation>동기화 방향이 이 폴더의 권한과 맞지 않습니다. 다른 방향을 선택하십시오.</translation>
+        <translation>동기화 방향이 이 폴더에 대한 권한과 맞지 않습니다. 다른 방향을 선택하십시오.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server의 버전이 너무 오래되었습니다. 서버에서 업데이트하십시오.</translation>
+        <translation>이 버전의 Lumivo Drive Server는 너무 오래되었습니다. 서버에서 업데이트하십시오.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>다시 연결</translation>
+        <translation>다시 연동</translation>
     </message>
     <message>
         <source>History</source>
@@ -469,11 +469,11 @@
     </message>
     <message>
         <source>Enter your server&apos;s address and your account details.</source>
-        <translation>서버 주소와 계정을 입력하십시오.</translation>
+        <translation>서버 주소와 계정 정보를 입력하십시오.</translation>
     </message>
     <message>
         <source>Let&apos;s get started</source>
-        <translation>이제 시작하겠습니다</translation>
+        <translation>시작하기</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
-        <translation>이 폴더에 쓸 수 없습니다. 다른 폴더를 선택하거나 폴더의 권한을 변경하십시오.</translation>
+        <translation>이 폴더에 쓸 수 없습니다. 폴더의 권한을 변경하거나 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -665,7 +665,7 @@
     </message>
     <message>
         <source>This computer is now linked to &quot;%1&quot;. Syncing starts right away.</source>
-        <translation>이제 이 컴퓨터가 “%1” 서버에 연결되었습니다. 동기화가 바로 시작됩니다.</translation>
+        <translation>이제 이 컴퓨터가 “%1” 서버와 연동되었습니다. 동기화가 바로 시작됩니다.</translation>
     </message>
     <message>
         <source>Everything in sync</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Check the sync status</source>
-        <translation>상태 확인</translation>
+        <translation>동기화 상태 확인</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server의 버전이 이 컴퓨터에서 사용하기에 너무 오래되었습니다. 서버에서 버전 %1 이상으로 업데이트하십시오.</translation>
+        <translation>이 버전의 Lumivo Drive Server는 이 컴퓨터의 Lumivo Drive에서 사용하기에 너무 오래되었습니다. 서버에서 버전 %1 이상으로 업데이트하십시오.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Do you want to unlink this computer from &quot;%1&quot;?\nThe files that are already on this computer will be kept.</source>
-        <translation>이 컴퓨터와 “%1” 서버의 연결을 해제하시겠습니까?\n이미 이 컴퓨터에 있는 파일은 유지됩니다.</translation>
+        <translation>이 컴퓨터와 “%1” 서버의 연동을 해제하시겠습니까?\n이미 이 컴퓨터에 있는 파일은 유지됩니다.</translation>
     </message>
     <message>
         <source>This folder is used by a backup task. Select another folder.</source>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>This ZephLink ID does not exist. Check it and try again.</source>
-        <translation>이 ZephLink ID가 없습니다. 확인하고 다시 시도하십시오.</translation>
+        <translation>이 ZephLink ID는 존재하지 않습니다. 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>Do not sync these files</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Enter no more than %1 characters.</source>
-        <translation>이 항목의 최대 길이는 %1자입니다.</translation>
+        <translation>%1자 이내로 입력하십시오.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1085,7 +1085,7 @@
     </message>
     <message>
         <source>Folder already synced</source>
-        <translation>이미 동기화된 폴더</translation>
+        <translation>이미 동기화 중인 폴더</translation>
     </message>
     <message>
         <source>Syncing...</source>
@@ -1121,7 +1121,7 @@
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>연결을 해제하는 중...</translation>
+        <translation>연동을 해제하는 중...</translation>
     </message>
     <message>
         <source>Files being synced</source>
@@ -1197,7 +1197,7 @@
     </message>
     <message>
         <source>The sync database is damaged. Unlink this computer and link it again.</source>
-        <translation>동기화 데이터베이스가 손상되었습니다. 이 컴퓨터의 연결을 해제한 후 다시 연결하십시오.</translation>
+        <translation>동기화 데이터베이스가 손상되었습니다. 이 컴퓨터의 연동을 해제한 후 다시 연동하십시오.</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -1253,7 +1253,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
-        <translation>서버의 인증서를 확인할 수 없습니다. 연결 설정에서 확인하십시오.</translation>
+        <translation>서버의 인증서를 검증할 수 없습니다. 연결 설정에서 확인하십시오.</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>네트워크 드라이브의 변경 사항은 감시할 수 없습니다. 로컬 디스크의 폴더를 선택하십시오.</translation>
+        <translation>네트워크 드라이브의 변경 사항은 감지할 수 없습니다. 로컬 디스크의 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1325,7 +1325,7 @@
     </message>
     <message>
         <source>The connection to your server was lost. It will be restored automatically.</source>
-        <translation>서버와의 연결이 끊어졌습니다. 자동으로 복원됩니다.</translation>
+        <translation>서버와의 연결이 끊어졌습니다. 자동으로 다시 연결됩니다.</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive의 버전이 너무 오래되었습니다. 이 컴퓨터에서 업데이트하십시오.</translation>
+        <translation>이 버전의 Lumivo Drive는 너무 오래되었습니다. 이 컴퓨터에서 업데이트하십시오.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1461,7 +1461,7 @@
     </message>
     <message>
         <source>Link another server</source>
-        <translation>다른 서버 연결</translation>
+        <translation>다른 서버와 연동</translation>
     </message>
     <message>
         <source>I do not accept the terms of the license agreement</source>
@@ -1517,7 +1517,7 @@
     </message>
     <message>
         <source>Too many failed attempts. Wait a few minutes and try again.</source>
-        <translation>실패한 시도가 너무 많습니다. 몇 분 후에 다시 시도하십시오.</translation>
+        <translation>실패 횟수가 너무 많습니다. 몇 분 후에 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>September</source>
@@ -1641,7 +1641,7 @@
     </message>
     <message>
         <source>Unlink this connection</source>
-        <translation>이 연결 해제</translation>
+        <translation>이 연결의 연동 해제</translation>
     </message>
     <message>
         <source>The connection is unstable</source>
@@ -1673,7 +1673,7 @@
     </message>
     <message>
         <source>Your account is not allowed to sync this folder. Ask your administrator for permission.</source>
-        <translation>이 계정은 이 폴더를 동기화할 수 없습니다. 관리자에게 권한을 요청하십시오.</translation>
+        <translation>이 계정으로는 이 폴더를 동기화할 수 없습니다. 관리자에게 권한을 요청하십시오.</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -1705,7 +1705,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
-        <translation>서버의 인증서를 확인할 수 없습니다.\n이 네트워크를 신뢰하는 경우에만 계속하십시오.</translation>
+        <translation>서버의 인증서를 검증할 수 없습니다.\n이 네트워크를 신뢰하는 경우에만 계속하십시오.</translation>
     </message>
     <message>
         <source>Files left to sync: %1</source>
@@ -1733,15 +1733,15 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>서버의 인증서를 확인할 수 없습니다. 관리자에게 유효한 인증서를 요청하십시오.</translation>
+        <translation>서버의 인증서를 검증할 수 없습니다. 관리자에게 유효한 인증서를 설치해 달라고 요청하십시오.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
-        <translation>서버가 교체되었습니다. 이 컴퓨터를 다시 연결하십시오.</translation>
+        <translation>서버가 교체되었습니다. 이 컴퓨터를 다시 연동하십시오.</translation>
     </message>
     <message>
         <source>Follow these steps to link this computer to your server.</source>
-        <translation>다음 단계에 따라 이 컴퓨터를 서버에 연결하십시오.</translation>
+        <translation>다음 단계에 따라 이 컴퓨터를 서버와 연동하십시오.</translation>
     </message>
     <message>
         <source>Proxy server</source>
