@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Files with these names will not be synced.</source>
-        <translation>이러한 이름의 파일은 동기화되지 않습니다.</translation>
+        <translation>이 이름의 파일은 동기화되지 않습니다.</translation>
     </message>
     <message>
         <source>Could not connect to your server. Check your network connection and try again.</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Setup was interrupted. Your computer has not been changed.</source>
-        <translation>설치가 중단되었습니다. 컴퓨터는 변경되지 않았습니다.</translation>
+        <translation>설치가 중단되었습니다. 컴퓨터에 변경된 내용은 없습니다.</translation>
     </message>
     <message>
         <source>Folder not found</source>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>Right-click a file in a synced folder to share it or to see its earlier versions.</source>
-        <translation>동기화된 폴더의 파일을 마우스 오른쪽 버튼으로 클릭하면 파일을 공유하거나 이전 버전을 볼 수 있습니다.</translation>
+        <translation>동기화 폴더의 파일을 마우스 오른쪽 버튼으로 클릭하면 파일을 공유하거나 이전 버전을 볼 수 있습니다.</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -525,7 +525,7 @@
     </message>
     <message>
         <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
-        <translation>시작하려면 “설치”를 클릭하십시오. 선택 사항을 검토하거나 변경하려면 “뒤로”를 클릭하십시오. 설치를 종료하려면 “취소”를 클릭하십시오.</translation>
+        <translation>시작하려면 “설치”를 클릭하십시오. 선택 사항을 검토하거나 변경하려면 “뒤로”를 클릭하십시오. 설치 프로그램을 종료하려면 “취소”를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Something went wrong. Try again later.</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
-        <translation>시작하려면 “복구”를 클릭하십시오. 선택 사항을 검토하려면 “뒤로”를 클릭하십시오. 설치를 종료하려면 “취소”를 클릭하십시오.</translation>
+        <translation>시작하려면 “복구”를 클릭하십시오. 선택 사항을 검토하려면 “뒤로”를 클릭하십시오. 설치 프로그램을 종료하려면 “취소”를 클릭하십시오.</translation>
     </message>
     <message>
         <source>You cannot write to this folder. Change its permissions or select another folder.</source>
@@ -881,7 +881,7 @@
     </message>
     <message>
         <source>Click Finish to exit Setup.</source>
-        <translation>설치를 종료하려면 “마침”을 클릭하십시오.</translation>
+        <translation>설치 프로그램을 종료하려면 “마침”을 클릭하십시오.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
-        <translation>이 컴퓨터에서 Lumivo Drive를 제거하려면 “제거”를 클릭하십시오. 선택 사항을 검토하려면 “뒤로”를 클릭하십시오. 설치를 종료하려면 “취소”를 클릭하십시오.</translation>
+        <translation>이 컴퓨터에서 Lumivo Drive를 제거하려면 “제거”를 클릭하십시오. 선택 사항을 검토하려면 “뒤로”를 클릭하십시오. 설치 프로그램을 종료하려면 “취소”를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Welcome back to Lumivo Drive Setup</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
-        <translation>이 컴퓨터에 Lumivo Drive를 설치합니다. 계속하려면 “다음”을 클릭하고 설치를 종료하려면 “취소”를 클릭하십시오.</translation>
+        <translation>이 컴퓨터에 Lumivo Drive를 설치합니다. 계속하려면 “다음”을 클릭하고 설치 프로그램을 종료하려면 “취소”를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1241,7 +1241,7 @@
     </message>
     <message>
         <source>Setup ended because of an error.\nYour computer has not been changed.</source>
-        <translation>오류로 인해 설치가 종료되었습니다.\n컴퓨터는 변경되지 않았습니다.</translation>
+        <translation>오류로 인해 설치가 종료되었습니다.\n컴퓨터에 변경된 내용은 없습니다.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete some files to continue syncing.</source>

@@ -213,7 +213,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified.</source>
-        <translation>Не удалось проверить сертификат сервера.</translation>
+        <translation>Не удалось проверить подлинность сертификата сервера.</translation>
     </message>
     <message>
         <source>Please wait. This may take several minutes.</source>
@@ -781,7 +781,7 @@
     </message>
     <message>
         <source>Close these applications and click Retry, or click Ignore and restart the computer later.</source>
-        <translation>Закройте эти приложения и нажмите «Повторить» или нажмите «Пропустить» и перезагрузите компьютер позже.</translation>
+        <translation>Закройте эти приложения и нажмите «Повторить» либо нажмите «Пропустить» и перезагрузите компьютер позже.</translation>
     </message>
     <message>
         <source>Lets you change which features are installed.</source>
@@ -1253,7 +1253,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
-        <translation>Не удалось проверить сертификат сервера. Проверьте его в настройках подключения.</translation>
+        <translation>Не удалось проверить подлинность сертификата сервера. Просмотрите его в настройках подключения.</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -1705,7 +1705,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
-        <translation>Не удалось проверить сертификат сервера.\nПродолжайте, только если доверяете этой сети.</translation>
+        <translation>Не удалось проверить подлинность сертификата сервера.\nПродолжайте, только если доверяете этой сети.</translation>
     </message>
     <message>
         <source>Files left to sync: %1</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
-        <translation>Не удалось проверить сертификат сервера. Попросите администратора установить действительный сертификат.</translation>
+        <translation>Не удалось проверить подлинность сертификата сервера. Попросите администратора установить действительный сертификат.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
