@@ -669,7 +669,7 @@
     </message>
     <message>
         <source>Everything in sync</source>
-        <translation>Todo sincronizado</translation>
+        <translation>Sincronización al día</translation>
     </message>
     <message>
         <source>Date</source>
@@ -1001,7 +1001,7 @@
     </message>
     <message>
         <source>Everything that you put into your sync folder appears on your server and on your other computers.</source>
-        <translation>Todo lo que coloque en su carpeta de sincronización aparecerá en su servidor y en sus demás equipos.</translation>
+        <translation>Cuanto coloque en su carpeta de sincronización aparecerá en su servidor y en sus demás equipos.</translation>
     </message>
     <message>
         <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
