@@ -1,9 +1,10 @@
-"""A client's bundle tree: what lies in it, and why it may not be packed."""
+"""A client's bundle tree: what lies in it, why it may not be packed, and in which order it is."""
 
 import os
 import re
 import stat
 import unicodedata
+from typing import Callable, NamedTuple
 
 EXECUTABLE = b"Contents/MacOS/lumivo-drive-ui"
 RESOURCES = b"Contents/Resources"
@@ -14,35 +15,100 @@ class Refusal(Exception):
     """The package cannot be made; the text says why."""
 
 
+class Entry(NamedTuple):
+    """A node of the tree; the kinds are d, f, x (a file that can be executed), l, ? (another)."""
+
+    kind: str
+    target: bytes = b""
+    size: int = 0
+
+    @property
+    def is_file(self):
+        return self.kind in "fx"
+
+    @property
+    def mode(self):
+        return {"f": 0o644, "l": 0o777}.get(self.kind, 0o755)
+
+
+class Contents(NamedTuple):
+    """What a package is made of."""
+
+    entries: dict
+    order: list
+    source_of: Callable  # where the data of an entry lies
+    moment: int  # the time of every entry
+
+
 def shown(path):
     return path.decode("utf-8", "backslashreplace")
 
 
 def survey(root):
-    """All that lies below `root`: path -> (kind, link text); the kinds are d, f, x (executable file), l, ? (other)."""
+    """All that lies below `root`: path -> Entry."""
     entries, folders = {}, [b""]
     while folders:
         folder = folders.pop()
         with os.scandir(os.path.join(root, folder)) as found:
             for item in found:
-                path, mode = (
-                    os.path.join(folder, item.name),
-                    item.stat(follow_symlinks=False).st_mode,
-                )
-                if stat.S_ISLNK(mode):
-                    entries[path] = ("l", os.readlink(item.path))
-                elif stat.S_ISDIR(mode):
-                    entries[path] = ("d", None)
+                path = os.path.join(folder, item.name)
+                entries[path] = entry_of(item)
+                if entries[path].kind == "d":
                     folders.append(path)
-                elif stat.S_ISREG(mode):
-                    entries[path] = ("x" if mode & stat.S_IXUSR else "f", None)
-                else:
-                    entries[path] = ("?", None)
     return entries
 
 
+def entry_of(item):
+    status = item.stat(follow_symlinks=False)
+    if stat.S_ISLNK(status.st_mode):
+        return Entry("l", os.readlink(item.path))
+    if stat.S_ISDIR(status.st_mode):
+        return Entry("d")
+    if stat.S_ISREG(status.st_mode):
+        return Entry("x" if status.st_mode & stat.S_IXUSR else "f", size=status.st_size)
+    return Entry("?")
+
+
+def faults_of(entries):
+    """Why the tree cannot be packed, a line each."""
+    seen = {}
+    for path in sorted(entries):
+        yield from faults_of_entry(path, entries, seen)
+    kind = entries[EXECUTABLE].kind if EXECUTABLE in entries else None
+    if kind == "f":
+        yield f"'{shown(EXECUTABLE)}' is not executable"
+    elif kind != "x":
+        yield f"there is no executable '{shown(EXECUTABLE)}'"
+    if not entries[INFO].is_file or entries[RESOURCES].kind != "d":
+        yield f"'{shown(INFO)}' is not a plain file in a plain folder"
+
+
+def faults_of_entry(path, entries, seen):
+    """Those of a name and what it stands for; `seen` collects the names as a Mac compares them."""
+    kind, target, _ = entries[path]
+    try:
+        text, target = path.decode("utf-8"), target.decode("utf-8")
+    except UnicodeDecodeError:
+        yield f"'{shown(path)}': the name, or what it links to, is not valid UTF-8"
+        return
+    if re.search(r"[\x00-\x1f\x7f\\]", text):
+        yield f"'{ascii(text)[1:-1]}': the name holds a control character or a backslash"
+    # Canonical caseless match: such names are one file on the user's disk.
+    folded = unicodedata.normalize("NFD", unicodedata.normalize("NFD", text).casefold())
+    if folded in seen:
+        yield f"'{text}' and '{seen[folded]}' differ only by case or Unicode form"
+    seen.setdefault(folded, text)
+    if kind == "?":
+        yield f"'{text}' is a device, a FIFO or a socket"
+    if kind == "l" and leaves(path, entries):
+        yield f"'{text}': the link to '{target}' leaves the tree"
+
+
 def leaves(link, entries):
-    """Whether following `link` steps out of the tree on its way, even if it came back. A loop leads nowhere."""
+    """Whether the way that `link` leads steps out of the tree, even if it came back.
+
+    A loop leads nowhere.
+    """
     parts = link.split(b"/")
     here, ahead, followed = parts[:-1], parts[-1:], 0
     while ahead and followed <= 40:
@@ -52,45 +118,15 @@ def leaves(link, entries):
                 return True
             here.pop()
         elif step not in (b"", b"."):
-            kind, target = entries.get(b"/".join(here + [step]), (None, None))
-            if kind != "l":
+            entry = entries.get(b"/".join(here + [step]))
+            if entry is None or entry.kind != "l":
                 here.append(step)
-            elif target.startswith(b"/"):
+            elif entry.target.startswith(b"/"):
                 return True
             else:
-                ahead = target.split(b"/") + ahead
+                ahead = entry.target.split(b"/") + ahead
                 followed += 1
     return False
-
-
-def faults_of(entries):
-    """Why the tree cannot be packed, a line each."""
-    seen = {}
-    for path in sorted(entries):
-        kind, target = entries[path]
-        try:
-            text, target = path.decode("utf-8"), (target or b"").decode("utf-8")
-        except UnicodeDecodeError:
-            yield f"'{shown(path)}': the name, or what it links to, is not valid UTF-8"
-            continue
-        if re.search(r"[\x00-\x1f\x7f\\]", text):
-            yield f"'{ascii(text)[1:-1]}': the name holds a control character or a backslash"
-        # Canonical caseless match: such names are one file on the user's disc.
-        folded = unicodedata.normalize("NFD", unicodedata.normalize("NFD", text).casefold())
-        if folded in seen:
-            yield f"'{text}' and '{seen[folded]}' differ only by case or Unicode form"
-        seen.setdefault(folded, text)
-        if kind == "?":
-            yield f"'{text}' is a device, a FIFO or a socket"
-        if kind == "l" and leaves(path, entries):
-            yield f"'{text}': the link to '{target}' leaves the tree"
-    kind = entries.get(EXECUTABLE, (None,))[0]
-    if kind == "f":
-        yield f"'{shown(EXECUTABLE)}' is not executable"
-    elif kind != "x":
-        yield f"there is no executable '{shown(EXECUTABLE)}'"
-    if entries[INFO][0] not in "fx" or entries[RESOURCES][0] != "d":
-        yield f"'{shown(INFO)}' is not a plain file in a plain folder"
 
 
 def check_info(root, info):
@@ -103,3 +139,9 @@ def check_info(root, info):
     for line in said:
         if line not in info.splitlines():
             raise Refusal(f"the tree's own INFO disagrees: '{shown(line)}'")
+
+
+def packing_order(entries):
+    """All paths by name; the executable second to last, INFO the last."""
+    last = [EXECUTABLE, INFO]
+    return sorted(entries.keys() - set(last)) + last
