@@ -142,6 +142,27 @@ def check_info(root, info):
 
 
 def packing_order(entries):
-    """All paths by name; the executable second to last, INFO the last."""
+    """All paths, each folder before its contents; the executable second to last, INFO the last.
+
+    The launcher's progress counts entries, and the bytes written should keep pace with it: a large
+    file comes when as many entries before it as half its size is worth have been too small, and
+    the largest comes first. The shares of bytes and entries then differ by half of the largest
+    file's at most, and by the executable's, whose place is given.
+    """
     last = [EXECUTABLE, INFO]
-    return sorted(entries.keys() - set(last)) + last
+    paths = sorted(entries.keys() - set(last))
+    total = sum(entries[path].size for path in paths)
+    large = [path for path in paths if entries[path].size * len(paths) > total]
+    large.sort(key=lambda path: (entries[path].size, path))
+    small = [path for path in reversed(paths) if entries[path].size * len(paths) <= total]
+
+    order, written = {}, 0
+    while large or small:
+        behind = total * len(order) - written * len(paths)
+        is_due = large and 2 * behind >= entries[large[-1]].size * len(paths)
+        path = (large if is_due or not small else small).pop()
+        for slash in re.finditer(b"/", path):
+            order.setdefault(path[: slash.start()])
+        order.setdefault(path)
+        written += entries[path].size
+    return list(order) + last

@@ -1,9 +1,8 @@
 """Writes zip archives whose members were compressed by somebody else, with any method.
 
-The sizes and the checksum of a member are known before its data. Names are bytes and
-stay as they are: without the flag that calls them UTF-8, a reader in any locale, or in none, gives
-Unix names to Unix unchanged. Sizes, offsets and counts that do not fit the old fields go into the
-zip64 ones, and only those.
+The sizes and the checksum of a member are known before its data. Names are bytes and stay as they
+are: without the flag that calls them UTF-8, a reader in any locale, or in none, gives them to Unix
+unchanged. Sizes, offsets and counts that do not fit the old fields go into the zip64 ones.
 """
 
 import stat

@@ -241,6 +241,24 @@ class MakePackage(Case):
         self.assertEqual({member.extra for member in found.values()}, {b""})
         self.assertEqual({member.date_time for member in found.values()}, {(2001, 9, 9, 1, 46, 40)})
 
+    def test_bytes_keep_pace_with_entries_and_folders_come_before_their_contents(self):
+        nodes = {EXECUTABLE: CLIENT[EXECUTABLE]}
+        for number in range(20):
+            nodes[f"Contents/Z/{number}.so"] = file(bytes(50_000 * number))
+        for number in range(400):
+            nodes[f"Contents/A/{number // 20}/{number}"] = file(bytes(10 * number))
+        self.make(make_app(self.folder, nodes))
+
+        sizes = {name: member.file_size for name, member in members(self.package).items()}
+        total, written, seen, distance = sum(sizes.values()), 0, {""}, 0
+        for number, (name, size) in enumerate(sizes.items()):
+            self.assertIn(os.path.dirname(name), seen)
+            seen.add(name)
+            distance = max(distance, abs(written / total - number / len(sizes)))
+            written += size
+        unavoidable = (max(sizes.values()) / 2 + sizes[EXECUTABLE]) / total
+        self.assertLess(distance, unavoidable + 0.01)
+
     def test_the_same_tree_gives_the_same_bytes_anywhere_on_another_day(self):
         one = make_app(self.folder / "1")
         two = make_app(self.folder / "2", {path: CLIENT[path] for path in reversed(CLIENT)})
