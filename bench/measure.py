@@ -10,6 +10,7 @@ import contextlib
 import json
 import os
 import pathlib
+import plistlib
 import random
 import shutil
 import statistics
@@ -141,6 +142,8 @@ class Bench:
                 app, made = pathlib.Path(work, "app"), pathlib.Path(work, "made")
                 (app / "Contents/MacOS").mkdir(parents=True)
                 shutil.copy(self.program("bench-client"), app / "Contents/MacOS/lumivo-drive-ui")
+                plist = {"CFBundleExecutable": "lumivo-drive-ui"}
+                (app / "Contents/Info.plist").write_bytes(plistlib.dumps(plist))
                 fill(app / "Contents")
                 subprocess.run(
                     [

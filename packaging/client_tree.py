@@ -1,14 +1,24 @@
 """A client's bundle tree: what lies in it, why it may not be packed, and in which order it is."""
 
+import errno
 import os
+import plistlib
 import re
+import shutil
 import stat
+import subprocess
 import unicodedata
 from typing import Callable, NamedTuple
 
-EXECUTABLE = b"Contents/MacOS/lumivo-drive-ui"
+EXECUTABLE_NAME = "lumivo-drive-ui"
+EXECUTABLE = b"Contents/MacOS/" + EXECUTABLE_NAME.encode()
 RESOURCES = b"Contents/Resources"
 INFO = RESOURCES + b"/INFO"
+PROPERTY_LIST = b"Contents/Info.plist"
+SIGNATURE = b"Contents/_CodeSignature"
+# Where a signature is kept of files that have no room for it. A Mac's attributes that were copied
+# to Linux have "user." in front.
+SIGNATURE_ATTRIBUTE = re.compile(r"(user\.)?com\.apple\.cs\.")
 
 
 class Refusal(Exception):
@@ -69,7 +79,7 @@ def entry_of(item):
     return Entry("?")
 
 
-def faults_of(entries):
+def faults_of(root, entries):
     """Why the tree cannot be packed, a line each."""
     seen = {}
     for path in sorted(entries):
@@ -81,6 +91,8 @@ def faults_of(entries):
         yield f"there is no executable '{shown(EXECUTABLE)}'"
     if not entries[INFO].is_file or entries[RESOURCES].kind != "d":
         yield f"'{shown(INFO)}' is not a plain file in a plain folder"
+    yield from faults_of_property_list(root, entries)
+    yield from signatures_in_attributes(root, entries)
 
 
 def faults_of_entry(path, entries, seen):
@@ -129,16 +141,87 @@ def leaves(link, entries):
     return False
 
 
-def check_info(root, info):
-    """An INFO that the tree brings along may say nothing but what the package's INFO will say."""
+def faults_of_property_list(root, entries):
+    """A Mac starts the file that the property list names, and nothing without one."""
+    name = shown(PROPERTY_LIST)
+    if PROPERTY_LIST not in entries or not entries[PROPERTY_LIST].is_file:
+        yield f"there is no plain file '{name}', so a Mac could not start the client"
+        return
+    try:
+        with open(os.path.join(root, PROPERTY_LIST), "rb") as file:
+            executable = plistlib.load(file).get("CFBundleExecutable")
+    except OSError:
+        raise
+    except Exception as error:  # the parsers behind plistlib have no common base
+        yield f"'{name}' cannot be read: {error}"
+        return
+    if executable != EXECUTABLE_NAME:
+        yield f"'{name}' names {executable!r} as CFBundleExecutable, not '{EXECUTABLE_NAME}'"
+
+
+def signatures_in_attributes(root, entries):
+    """A package holds no extended attributes, so such a signature would be lost."""
+    if hasattr(os, "listxattr"):
+        found = attributes_by_system_call(root, entries)
+    elif shutil.which("xattr"):
+        found = attributes_by_tool(root)
+    else:
+        found = ()
+    for path, attribute in found:
+        if SIGNATURE_ATTRIBUTE.match(attribute):
+            yield f"'{path}' keeps a signature in the attribute '{attribute}', which would be lost"
+
+
+def attributes_by_system_call(root, entries):
+    for path in sorted(entries):
+        try:
+            names = os.listxattr(os.path.join(root, path), follow_symlinks=False)
+        except OSError as error:
+            # This file system has none, or the entry is one that only the package will have.
+            if error.errno not in (errno.ENOTSUP, errno.ENOENT):
+                raise
+            continue
+        for name in names:
+            yield shown(path), name
+
+
+def attributes_by_tool(root):
+    """The tool of macOS, where Python has no call for it: a line "PATH: NAME" for each."""
+    listed = subprocess.run(["xattr", "-rsv", root], stdout=subprocess.PIPE, check=True).stdout
+    for line in shown(listed).splitlines():
+        path, _, name = line.rpartition(": ")
+        yield os.path.relpath(path, os.fsdecode(root)), name
+
+
+def packed_info(root, entries, info):
+    """The bytes of the package's INFO, where `info` is what it has to say.
+
+    An INFO that the tree brings along may say nothing else. A signed tree must bring it, saying all
+    of it, and it is packed as it is: a file that is added or changed breaks the signature.
+    """
+    is_signed = SIGNATURE in entries
+    if INFO not in entries:
+        if is_signed:
+            raise Refusal(
+                f"the client is signed but brings no '{shown(INFO)}', and adding it now would "
+                "break the signature: add it before signing, with these lines:\n" + info.decode()
+            )
+        return info
     with open(os.path.join(root, INFO), "rb") as file:
-        lines = [
-            re.sub(rb"\s*=\s*", b"=", line.strip(), count=1) for line in file.read().splitlines()
-        ]
-    said = [line for line in lines if line and line[:1] not in b";#"]
+        own = file.read()
+    lines = [re.sub(rb"\s*=\s*", b"=", line.strip(), count=1) for line in own.splitlines()]
+    said, expected = [line for line in lines if line and line[:1] not in b";#"], info.splitlines()
     for line in said:
-        if line not in info.splitlines():
+        if line not in expected:
             raise Refusal(f"the tree's own INFO disagrees: '{shown(line)}'")
+    if not is_signed:
+        return info
+    if said[:1] != expected[:1] or sorted(said) != sorted(expected):
+        raise Refusal(
+            "the client is signed, and its own INFO does not say just this: "
+            "say it, and no more, before signing:\n" + info.decode()
+        )
+    return own
 
 
 def packing_order(entries):

@@ -4,6 +4,7 @@ import io
 import itertools
 import os
 import pathlib
+import plistlib
 import re
 import shutil
 import stat
@@ -20,7 +21,8 @@ from support import EXECUTABLE, INFO, MAKE_PACKAGE, READER, ROOT, Case, tree
 sys.path.insert(0, os.path.dirname(MAKE_PACKAGE))
 from zip_writer import DEFLATED, STORED, ZSTANDARD, Member, ZipWriter  # noqa: E402
 
-RESOURCES = "Contents/Resources/"
+PLIST, RESOURCES = "Contents/Info.plist", "Contents/Resources/"
+SIGNATURE = "Contents/_CodeSignature/CodeResources"
 
 
 def file(content=b"", mode=0o644):
@@ -35,9 +37,14 @@ def link(target):
     return lambda path: path.symlink_to(target)
 
 
+def plist(executable, form=plistlib.FMT_XML):
+    return file(plistlib.dumps({"CFBundleExecutable": executable}, fmt=form))
+
+
 # The kinds of entries that clients have.
 CLIENT = {
     EXECUTABLE: file(b"#!" + os.urandom(300_000), 0o755),
+    PLIST: plist("lumivo-drive-ui", plistlib.FMT_BINARY),
     "-": file(b"3"),
     RESOURCES + "- *[x] '\"": file(b"2"),
     RESOURCES + "a-b": file(),
@@ -153,11 +160,23 @@ class MakePackage(Case):
             Row("is a device", "pipe", os.mkfifo),
             Row("not a plain file", INFO, link("a/b")),
             Row("INFO disagrees: 'build_version=3488'", INFO, file(b"build_version = 3488\n")),
+            Row("no plain file 'Contents/Info.plist'", PLIST, link("../-")),
+            Row("Info.plist' cannot be read", PLIST, file(b"<plist><dict>")),
+            Row("names 'launcher' as CFBundleExecutable", PLIST, plist("launcher")),
+            Row("signed but brings no '.*/INFO'", SIGNATURE, file()),
         )
         for number, row in enumerate(rows):
             app = make_app(self.folder / str(number))
             put(app / row.path, row.make)
             self.refused(app, row.reason)
+
+    def test_signatures_in_extended_attributes_are_refused(self):
+        app = make_app(self.folder)
+        try:
+            os.setxattr(app / "-", "user.com.apple.cs.CodeSignature", b"")
+        except OSError as error:
+            self.skipTest(f"no extended attributes here: {error}")
+        self.refused(app, "'-' keeps a signature in the attribute")
 
     def test_arguments_that_are_refused(self):
         app = make_app(self.folder)
@@ -190,6 +209,25 @@ class MakePackage(Case):
             put(reader, file(script.encode(), 0o755))
             reason = "read back|interrupted by SIGTERM"
             self.refused(app, reason, "--build", "3500", "--reader", reader)
+
+    def test_a_signed_client_keeps_every_byte_and_its_signature_is_verified(self):
+        own = b"; ours\r\n" + versions().replace(b"\n", b"\r\n")
+        app = make_app(self.folder, {**CLIENT, SIGNATURE: file(b"seal"), INFO: file(own)})
+        told = self.folder / "told"
+        script = f'#!/bin/sh\necho "$1 $2 $3" >>"{told}"\ngrep -q seal "$4/{SIGNATURE}"\n'
+        put(self.folder / "tools/codesign", file(script.encode(), 0o755))
+        told.touch()
+        path = f"{self.folder}/tools:{os.environ['PATH']}"
+
+        self.make(app, PATH=path)
+        self.assertEqual(told.read_text(), "--verify --deep --strict\n")
+        subprocess.run(["bsdtar", "-xf", self.package, "-C", self.folder, INFO], check=True)
+        self.assertEqual((self.folder / INFO).read_bytes(), own)
+
+        put(app / SIGNATURE, file(b"broken"))
+        self.refused(app, "signature is not valid", PATH=path)
+        put(app / INFO, file(b"[Version]\nbuild_version=3487\n"))
+        self.refused(app, "does not say just this")
 
     def test_other_tools_read_and_list_the_same_tree(self):
         class Row(NamedTuple):
@@ -242,7 +280,7 @@ class MakePackage(Case):
         self.assertEqual({member.date_time for member in found.values()}, {(2001, 9, 9, 1, 46, 40)})
 
     def test_bytes_keep_pace_with_entries_and_folders_come_before_their_contents(self):
-        nodes = {EXECUTABLE: CLIENT[EXECUTABLE]}
+        nodes = {path: CLIENT[path] for path in (EXECUTABLE, PLIST)}
         for number in range(20):
             nodes[f"Contents/Z/{number}.so"] = file(bytes(50_000 * number))
         for number in range(400):
