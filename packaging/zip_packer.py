@@ -34,7 +34,8 @@ except ImportError:
 # 117 and 272; deflate's 9 gives 138 and 199 in 42 and 101. Many download what is packed once.
 ZSTANDARD_LEVEL = 19
 DEFLATE_LEVEL = 9
-BLOCK = 1 << 20
+# Small enough for an interruption to be noticed soon.
+BLOCK = 1 << 17
 
 
 def processors():
@@ -96,7 +97,7 @@ class Packed(NamedTuple):
             yield os.pread(self.spool.fileno(), min(BLOCK, end - offset), offset)
 
 
-class Interrupted(Exception):
+class Stopped(Exception):
     """Another thread failed, or the program is to end."""
 
 
@@ -130,29 +131,36 @@ class Packer:
                 mine.spool.truncate()
                 file.seek(0)
                 packed = self._spooled(file, Plain(), name, mode, size)
-        self._progress.advance(size)
         return packed
 
     def _spooled(self, file, compression, name, mode, size):
         spool = self._mine.spool
-        offset, read, checksum = spool.tell(), 0, 0
+        offset, checksum = spool.tell(), 0
         stream = compression.start(size)
-        while block := file.read(BLOCK):
-            if self.must_stop:
-                raise Interrupted()
-            read += len(block)
-            if read > size:
-                break
+        for block in self._blocks(file, size):
             checksum = zlib.crc32(block, checksum)
             spool.write(stream.compress(block))
-        if read != size:
-            raise OSError(f"'{os.fsdecode(file.name)}' changed while it was packed")
+            if compression.method != STORED:
+                self._progress.advance(len(block))
         spool.write(stream.flush())
         # Written out here, so that a full disk is this file's failure and not a later one's.
         spool.flush()
         packed_size = spool.tell() - offset
         member = Member(name, mode, compression.method, checksum, size, packed_size)
         return Packed(member, spool, offset)
+
+    def _blocks(self, file, size):
+        """The data of the file, which has to be as long as it was."""
+        left = size
+        while block := file.read(BLOCK):
+            if self.must_stop:
+                raise Stopped()
+            left -= len(block)
+            if left < 0:
+                break
+            yield block
+        if left != 0:
+            raise OSError(f"'{os.fsdecode(file.name)}' changed while it was packed")
 
 
 def pack_files(packer, files):
