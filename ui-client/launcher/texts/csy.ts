@@ -1813,7 +1813,7 @@
     </message>
     <message>
         <source>Sync your home folder with the recommended settings.</source>
-        <translation>Synchronizujte domovskou složku s doporučeným nastavením.</translation>
+        <translation>Synchronizujte domovskou složku pomocí doporučeného nastavení.</translation>
     </message>
     <message>
         <source>Loading folders...</source>

@@ -1325,7 +1325,7 @@
     </message>
     <message>
         <source>The connection to your server was lost. It will be restored automatically.</source>
-        <translation>Utracono połączenie z serwerem. Zostanie ono przywrócone automatycznie.</translation>
+        <translation>Utracono połączenie z serwerem. Zostanie automatycznie przywrócone.</translation>
     </message>
     <message>
         <source>No permission</source>

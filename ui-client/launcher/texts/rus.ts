@@ -1813,7 +1813,7 @@
     </message>
     <message>
         <source>Sync your home folder with the recommended settings.</source>
-        <translation>Синхронизируйте домашнюю папку с рекомендуемыми настройками.</translation>
+        <translation>Синхронизируйте домашнюю папку, используя рекомендуемые настройки.</translation>
     </message>
     <message>
         <source>Loading folders...</source>
