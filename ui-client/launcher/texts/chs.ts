@@ -1812,7 +1812,7 @@
         <translation>更改文件夹</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>使用推荐设置同步您的个人文件夹。</translation>
     </message>
     <message>

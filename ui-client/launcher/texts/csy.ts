@@ -1812,7 +1812,7 @@
         <translation>Změnit složku</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synchronizujte domovskou složku pomocí doporučeného nastavení.</translation>
     </message>
     <message>

@@ -1812,7 +1812,7 @@
         <translation>Skift mappe</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synkroniser din hjemmemappe med de anbefalede indstillinger.</translation>
     </message>
     <message>

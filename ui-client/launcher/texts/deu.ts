@@ -1812,7 +1812,7 @@
         <translation>Ordner ändern</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synchronisieren Sie Ihren persönlichen Ordner mit den empfohlenen Einstellungen.</translation>
     </message>
     <message>

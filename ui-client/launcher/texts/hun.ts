@@ -1812,7 +1812,7 @@
         <translation>Mappa módosítása</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Szinkronizálja a saját mappáját az ajánlott beállítások alapján.</translation>
     </message>
     <message>

@@ -1812,7 +1812,7 @@
         <translation>Cambia cartella</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Sincronizza la cartella personale con le impostazioni consigliate.</translation>
     </message>
     <message>

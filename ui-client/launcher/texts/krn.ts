@@ -1812,7 +1812,7 @@
         <translation>폴더 변경</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>권장 설정으로 홈 폴더를 동기화합니다.</translation>
     </message>
     <message>

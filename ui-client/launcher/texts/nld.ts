@@ -1812,7 +1812,7 @@
         <translation>Map wijzigen</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synchroniseer je thuismap met de aanbevolen instellingen.</translation>
     </message>
     <message>

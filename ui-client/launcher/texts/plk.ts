@@ -1812,7 +1812,7 @@
         <translation>Zmień folder</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synchronizuj folder domowy, używając zalecanych ustawień.</translation>
     </message>
     <message>

@@ -1812,7 +1812,7 @@
         <translation>Изменение папки</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Синхронизируйте домашнюю папку, используя рекомендуемые настройки.</translation>
     </message>
     <message>

@@ -1812,7 +1812,7 @@
         <translation>Klasörü değiştir</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Ana klasörünüzü önerilen ayarları kullanarak eşitleyin.</translation>
     </message>
     <message>
