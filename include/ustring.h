@@ -135,7 +135,7 @@ class ustring {
 
   /// Keeps the buffers; a later, much shorter text gives them back.
   ustring& clear();
-  void swap(ustring& other) noexcept;
+  ustring& swap(ustring& other) noexcept;
 
   /// Remove leading, trailing, or both, bytes that occur in `set`. Keep the buffer.
   void ltrim(const char* set);

@@ -373,13 +373,14 @@ ustring& ustring::clear() {
   return *this;
 }
 
-void ustring::swap(ustring& other) noexcept {
+ustring& ustring::swap(ustring& other) noexcept {
   std::swap(data, other.data);
   std::swap(data_len, other.data_len);
   std::swap(data_cap, other.data_cap);
   std::swap(wdata, other.wdata);
   std::swap(wdata_len, other.wdata_len);
   std::swap(wdata_cap, other.wdata_cap);
+  return *this;
 }
 
 void ustring::ltrim(const char* set) {

@@ -45,6 +45,7 @@ TEST(UString, ChangesReachBothForms) {
   check_change("bé-x", [](auto& s) { s.replace(' ', '-'), s += kWide[0], s[0] = 'b'; });
   check_change("x", [](auto& s) { s.trim(s), s.append(kWide[2], 2) += kWide[0]; });
   check_change("b", [](auto& s) { swap(s, *std::make_unique<ustring>('b')); });
+  check_change("bx", [](auto& s) { s.swap(*std::make_unique<ustring>('b')).append(kWide, 1); });
   check_change("x€ é ", [](auto& s) { s += kWide + ustring(std::move(s)); });
   check_change("x€", [](auto& s) { ustring('b') = std::move(s), s += kWide; });
   check_change(" é x€€", [](auto& s) {
