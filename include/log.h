@@ -1,15 +1,15 @@
 /// The process-wide log (`Logger`) and the reader of `key=value` files (`Config`).
 ///
-/// A source file that logs names itself before including this header and then uses the LOG_… macros
-/// at the end of it:
+/// A source file that logs names itself and then uses the LOG_… macros at the end of this header:
 ///
 ///     #define LOG_UNIT "extractor"
 ///     #include "log.h"
 ///     …
 ///     LOG_ERROR(kComponent, "cannot open '%s': %s (%d)\n", path.c_str(), strerror(errno), errno);
 ///
-/// The macros take the place of the syslog constants of the same names, so such a file must not
-/// include <syslog.h>.
+/// LOG_UNIT is looked up where a macro is used, so the name may also follow the include. The macros
+/// replace the constants of the same names in <syslog.h>, which must not be included after this
+/// header.
 
 #ifndef LUMIVO_LOG_H
 #define LUMIVO_LOG_H
@@ -21,6 +21,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <map>
+#include <type_traits>
 
 #include "ustring.h"
 
@@ -90,9 +91,8 @@ class Logger {
   /// leaves older files shifted.
   ///
   /// @return 0; -1 when the log file cannot be renamed or opened anew, and then lines are dropped
-  /// until `ReloadLogFile`
-  ///         or `Initialize` opens it; -1 with nothing changed when there is no log file or its
-  ///         rotated names would reach 1024 bytes
+  ///     until `ReloadLogFile` or `Initialize` opens it; -1 with nothing changed when there is no
+  ///     log file, when its rotated names would reach 1024 bytes or when memory is exhausted
   static int Rotate();
 
   /// Closes the log file and opens it again by its path, with a byte count of 0. When that fails
@@ -141,10 +141,18 @@ class Logger {
   static uint64_t log_rotated_count_private;
 };
 
-/// `Logger::LogMsg2` for callers that have no `ustring`. The started list is a `va_list`, which is
-/// a plain `char*` on some hosts only; this is the one spelling that every host passes correctly.
+/// `Logger::LogMsg2` for callers that have no `ustring`.
 void LogMSG_c(int level, char* component, const char* format, va_list args)
     __attribute__((format(printf, 3, 0)));
+
+/// The same for callers that pass the started list as a `char*`. On some hosts a `va_list` is one,
+/// and the function above takes it; on all others `args` is the address of the list.
+template <typename List, typename = std::enable_if_t<std::is_same_v<List, char*> &&
+                                                     !std::is_same_v<va_list, char*>>>
+__attribute__((format(printf, 3, 0))) void LogMSG_c(int level, char* component, const char* format,
+                                                    List args) {
+  LogMSG_c(level, component, format, *reinterpret_cast<va_list*>(args));
+}
 
 /// The entries of a text file of lines `key=value`.
 ///
@@ -173,7 +181,9 @@ class Config : public std::map<ustring, ustring> {
   int get_int(const ustring& key);
 };
 
-#ifdef LOG_UNIT
+#undef LOG_WARNING
+#undef LOG_INFO
+#undef LOG_DEBUG
 
 #define LOG_LINE_(level, tag, component, format, ...) \
   Logger::LogMsg(level, component, tag " " LOG_UNIT "(%d): " format, __LINE__, ##__VA_ARGS__)
@@ -190,7 +200,5 @@ class Config : public std::map<ustring, ustring> {
   LOG_LINE_(Logger::LEVEL_INFO, "[INFO]", component, format, ##__VA_ARGS__)
 #define LOG_DEBUG(component, format, ...) \
   LOG_LINE_(Logger::LEVEL_DEBUG, "[DEBUG]", component, format, ##__VA_ARGS__)
-
-#endif  // LOG_UNIT
 
 #endif  // LUMIVO_LOG_H

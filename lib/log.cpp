@@ -1,8 +1,9 @@
+#include <syslog.h>  // before our own header, which replaces some of its constants
+
 #include "log.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <syslog.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -234,6 +235,9 @@ int Logger::Rotate() {
   // Cut names would all be the same, and could be that of the log file itself. No index has more
   // digits than the last.
   if (log_path.empty() || !FormRotatedName(to, log_path, rotate_cnt - 1)) {
+    return -1;
+  }
+  if (InitializeSharedData() != 0) {
     return -1;
   }
   for (int i = rotate_cnt - 2; i >= 0; --i) {

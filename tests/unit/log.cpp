@@ -1,3 +1,5 @@
+#include "log.h"
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -8,7 +10,7 @@
 #include "support/tree.h"
 
 #define LOG_UNIT "unit"
-#include "log.h"
+#include "log.h"  // again: a file may have included it before it named itself
 
 namespace {
 
@@ -137,6 +139,34 @@ TEST_F(LoggerTest, RotatesOrDropsLinesAfterTheOneThatCrossesTheLimit) {
   EXPECT_EQ(Fill({100}), Sizes(2 * kLimit + 1, 100));
   std::filesystem::remove(log);  // cannot be renamed then
   EXPECT_EQ(Fill({kLimit, 100}), Sizes(0, 0));
+}
+
+TEST_F(LoggerTest, RotatesWithoutTheSharedData) {
+  Open(50);
+  Logger::DestroySharedData();
+  EXPECT_EQ(Logger::Rotate(), 0);
+  EXPECT_EQ(ListTree(dir.path), "log= log_0=");
+}
+
+void LogThroughPlainPointer(char* component, const char* format, ...)
+    __attribute__((format(printf, 2, 3)));
+
+void LogThroughPlainPointer(char* component, const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  if constexpr (std::is_same_v<va_list, char*>) {
+    LogMSG_c(Logger::LEVEL_ERROR, component, format, args);
+  } else {
+    LogMSG_c(Logger::LEVEL_ERROR, component, format, reinterpret_cast<char*>(&args));
+  }
+  va_end(args);
+}
+
+TEST_F(LoggerTest, TakesAStartedListAsAPlainPointer) {
+  Open(50);
+  char component[] = "some_debug";
+  LogThroughPlainPointer(component, "%d %s\n", 1, "two");
+  EXPECT_EQ(ReadFile(log).substr(kStamp), "1 two\n");
 }
 
 TEST_F(LoggerTest, KeepsOneOldFileLessThanItsDepth) {
