@@ -13,8 +13,8 @@
 /// Paths are UTF-8 and go to the system as given unless a function says that it normalises. Unless
 /// stated otherwise an operation returns 0 on success and a negative number on failure, logs its
 /// failures under the component "file_op_debug", changes its out-arguments on success only, never
-/// retries and never rolls back. Nothing here keeps state or takes a lock: every function runs on
-/// any thread. No descriptor that is opened here reaches a started program.
+/// retries and never rolls back. Nothing here keeps state: every function runs on any thread. No
+/// descriptor that is opened here reaches a started program.
 
 /// What a path can be; the values of `_FILE_INFO_tag::type` and `DIR_ENTRY::type`.
 enum FileTypeCode : int {
@@ -98,8 +98,8 @@ int FSMKDir(const ustring& path, bool parents);
 ///     It is valid as long as `path` is not changed
 /// @param replace   a file in the way is removed
 /// @param mode      exact permissions of the new folders: the process's umask is 0 during the call,
-/// for other threads
-///     as well. 0xFFFF: permissions 0777 less the umask, which is left alone
+///     for files that other threads create meanwhile as well. Such calls take turns, so that the
+///     umask is restored. 0xFFFF: permissions 0777 less the umask, which is left alone
 /// @return 0, -1; `errno` is `EEXIST` when a file stands at the end of the path and may not be
 /// replaced
 int FSMKDirP(const ustring& path, char** failedAt, bool replace, unsigned short mode);
@@ -141,7 +141,8 @@ int FSRename(const ustring& source, const ustring& destination, bool exact);
 /// time.
 ///
 /// A failure leaves what had not yet been removed. A folder that cannot be opened stays; for `path`
-/// itself that counts as success. "/" is refused before anything is removed.
+/// itself that counts as success. The root folder is refused before anything is removed, by
+/// whatever path it is reached.
 ///
 /// @param flag  not used
 /// @return 0 (also for a missing path), -1 empty path or one that cannot be examined, -3 failed,

@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <utility>
@@ -79,15 +80,23 @@ class Descriptor {
   int fd_;
 };
 
+// The umask belongs to the process, so its changes take turns: interleaved, two of them would
+// restore each other's 0.
 class NoUmask {
  public:
-  NoUmask() : previous_(umask(0)) {}
+  NoUmask() : turn_(Turns()), previous_(umask(0)) {}
   NoUmask(const NoUmask&) = delete;
   NoUmask& operator=(const NoUmask&) = delete;
   ~NoUmask() { umask(previous_); }
 
  private:
-  mode_t previous_;
+  static std::mutex& Turns() {
+    static std::mutex turns;
+    return turns;
+  }
+
+  const std::lock_guard<std::mutex> turn_;
+  const mode_t previous_;
 };
 
 template <typename Call>
@@ -483,7 +492,8 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
     LOG_ERROR(kComponent, "FSPathMakeRef: %d\n", error);
     return -1;
   }
-  info.path = LogResolvedPath(resolved);
+  const ustring composed = LogResolvedPath(resolved);
+  info.path = composed.empty() ? resolved : composed;  // ill-formed text has no composed form
   info.name = FSBaseName(info.path);
   return 0;
 }
@@ -650,10 +660,14 @@ int FSRemove(const ustring& path, [[maybe_unused]] bool flag) {
   // With a "/" behind it a link would stand for the folder that it points to.
   ustring target = path;
   target.rtrim("/");
-  if (target.empty()) {
-    return kFailed;  // the root cannot go, so its content may not either
+  ustring resolved = info.path;
+  if (target != path && ResolvePath(target, LastComponent::kKeepLink, resolved) != 0) {
+    return kFailed;
   }
-  return TreeRemover(target, info.path).Run() ? 0 : kFailed;
+  if (resolved == "/") {
+    return kFailed;  // the root cannot go, so its content may not either, whatever it is called
+  }
+  return TreeRemover(target, resolved).Run() ? 0 : kFailed;
 }
 
 int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle) {

@@ -1,8 +1,10 @@
 #include "file/file-op.h"
 
 #include <gtest/gtest.h>
+#include <sched.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -10,6 +12,7 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <thread>
 
 #include "log.h"
 #include "support/temp-dir.h"
@@ -175,6 +178,60 @@ TEST_F(FileOp, RemoveTakesTheTreeFollowsNoLinkAndStopsAtWhatItCannotOpen) {
     EXPECT_NE(log.npos, log.find("): FSRefMakePath outTargetPath path = [" + dir_ / name + "].\n"))
         << log;
   }
+}
+
+TEST_F(FileOp, InfoKeepsANameThatIsNotWellFormed) {
+  const std::string path = dir_ / "\xff";
+  WriteFile(path, "");
+  EXPECT_EQ(GetFileInfo(path, info_), 0);
+  EXPECT_EQ(info_.path, path);
+  EXPECT_EQ(info_.name, "\xff");
+}
+
+TEST_F(FileOp, FoldersMadeAtTheSameTimeLeaveTheUmaskAsItWas) {
+  BuildTree(".", "d");
+  umask(027);
+  const auto makeFolders = [] {
+    for (int round = 0; round < 20000; ++round) FSMKDirP("d", nullptr, false, 0777);
+  };
+  std::thread other(makeFolders);
+  makeFolders();
+  other.join();
+  EXPECT_EQ(umask(027), mode_t{027});
+}
+
+constexpr int kNoChroot = 77;
+
+// Removes `path` in a process whose root is `root`, and ends it with the result, less its sign.
+[[noreturn]] void RemoveWithinRoot(const std::string& root, const char* path) {
+  const bool mayChroot = geteuid() == 0 || unshare(CLONE_NEWUSER) == 0;
+  if (!mayChroot || chroot(root.c_str()) != 0 || chdir("/") != 0) _exit(kNoChroot);
+  // Never go on in a root that is not the test's own.
+  if (access("/d/f", F_OK) != 0 || access("/etc", F_OK) == 0) _exit(kNoChroot);
+  _exit(-FSRemove(path, false));
+}
+
+TEST_F(FileOp, RemoveRefusesTheRootByEveryName) {
+  BuildTree(".", "d d/f=x all>/");
+  struct Row {
+    const char* path;
+    int result;
+  };
+  const Row rows[] = {
+      {"/", 3},     {"//", 3},    {"/.", 3},  {"/./", 3},   {".", 3},
+      {"/d/..", 3}, {"d/../", 3}, {"/..", 3}, {"all/.", 3}, {"all/", 0},  // a link to it can go
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.path);
+    const pid_t child = fork();
+    if (child == 0) RemoveWithinRoot(dir_.path, row.path);
+    int status = 0;
+    waitpid(child, &status, 0);
+    if (WEXITSTATUS(status) == kNoChroot) GTEST_SKIP() << "this user may not change the root";
+    EXPECT_EQ(WEXITSTATUS(status), row.result);
+    EXPECT_EQ(ReadFile("d/f"), "x");
+  }
+  EXPECT_EQ(ListTree("."), "d/ d/f=x");
 }
 
 TEST_F(FileOp, SmallHelpersActOnThePathItselfOrSayWhyNot) {
