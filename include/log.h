@@ -11,8 +11,7 @@
 /// replace the constants of the same names in <syslog.h>, which must not be included after this
 /// header.
 
-#ifndef LUMIVO_LOG_H
-#define LUMIVO_LOG_H
+#pragma once
 
 #include <pthread.h>
 
@@ -200,5 +199,3 @@ class Config : public std::map<ustring, ustring> {
   LOG_LINE_(Logger::LEVEL_INFO, "[INFO]", component, format, ##__VA_ARGS__)
 #define LOG_DEBUG(component, format, ...) \
   LOG_LINE_(Logger::LEVEL_DEBUG, "[DEBUG]", component, format, ##__VA_ARGS__)
-
-#endif  // LUMIVO_LOG_H

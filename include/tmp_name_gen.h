@@ -1,5 +1,4 @@
-#ifndef LUMIVO_TMP_NAME_GEN_H
-#define LUMIVO_TMP_NAME_GEN_H
+#pragma once
 
 #include <pthread.h>
 
@@ -48,5 +47,3 @@ class TmpNameGen {
 
   static pthread_mutex_t m_lock;  // over every draw, of any generator
 };
-
-#endif  // LUMIVO_TMP_NAME_GEN_H

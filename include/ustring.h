@@ -1,5 +1,4 @@
-#ifndef LUMIVO_USTRING_H
-#define LUMIVO_USTRING_H
+#pragma once
 
 #include <cstddef>
 #include <cstring>
@@ -316,5 +315,3 @@ inline bool operator!=(const ustring& a, const char* b) {
 std::ostream& operator<<(std::ostream& out, const ustring& s);
 /// Reads one word as the stream reads a `std::string`; where there is none, `s` becomes empty.
 std::istream& operator>>(std::istream& in, ustring& s);
-
-#endif  // LUMIVO_USTRING_H

@@ -1,5 +1,4 @@
-#ifndef LUMIVO_FILE_OP_H
-#define LUMIVO_FILE_OP_H
+#pragma once
 
 #include <dirent.h>
 
@@ -229,5 +228,3 @@ int FSReadSymbolicLink(const ustring& linkPath, ustring& out);
 ///
 /// @return 0, -1
 int FSChown(const ustring& path, unsigned uid, unsigned gid);
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef LUMIVO_FS_TYPE_H
-#define LUMIVO_FS_TYPE_H
+#pragma once
 
 #include "ustring.h"
 
@@ -12,5 +11,3 @@
 /// @param name  set on success only
 /// @return 0, or -1 with `errno` set
 int GetFileSystemType(const ustring& path, ustring& name);
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef LUMIVO_PATH_RESOLVE_H
-#define LUMIVO_PATH_RESOLVE_H
+#pragma once
 
 #include "ustring.h"
 
@@ -20,5 +19,3 @@ enum class LastComponent {
 /// @return 0, or the host's own number of the failure: an OSStatus on macOS, an errno value
 /// elsewhere
 int ResolvePath(const ustring& path, LastComponent last, ustring& resolved);
-
-#endif
