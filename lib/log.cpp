@@ -13,16 +13,13 @@
 #include <sstream>
 #include <string>
 
+#include "owners.h"
+
 namespace {
 
 constexpr int64_t kRotationSize = 1048576;
 constexpr size_t kRotatedNameSize = 1024;
 constexpr int kLineSize = 8192;
-
-struct FileCloser {
-  void operator()(FILE* stream) const { fclose(stream); }
-};
-using File = std::unique_ptr<FILE, FileCloser>;
 
 // Callers test errno after they have logged it.
 class ErrnoKeeper {
@@ -46,13 +43,10 @@ class Locked {
 
 // fopen has no portable way to ask for close-on-exec.
 FILE* OpenStream(const ustring& path, int flags, const char* mode) {
-  const int fd = open(path.c_str(), flags | O_CLOEXEC, 0666);
-  if (fd < 0) {
-    return nullptr;
-  }
-  FILE* stream = fdopen(fd, mode);
-  if (stream == nullptr) {
-    close(fd);
+  Descriptor fd(open(path.c_str(), flags | O_CLOEXEC, 0666));
+  FILE* stream = fd.valid() ? fdopen(fd.get(), mode) : nullptr;
+  if (stream != nullptr) {
+    fd.Release();  // the stream closes it
   }
   return stream;
 }
@@ -139,8 +133,8 @@ Line ParseLine(const char* at, std::string* key, std::string* value) {
 
 // Without O_NONBLOCK a pipe of this name would hold the process up for as long as nobody writes
 // into it.
-File OpenRegularFile(const ustring& path) {
-  File file(OpenStream(path, O_RDONLY | O_NONBLOCK, "r"));
+FileStream OpenRegularFile(const ustring& path) {
+  FileStream file(OpenStream(path, O_RDONLY | O_NONBLOCK, "r"));
   struct stat info = {};
   if (file != nullptr && (fstat(fileno(file.get()), &info) != 0 || !S_ISREG(info.st_mode))) {
     file.reset();
@@ -406,7 +400,7 @@ void LogMSG_c(int level, char* component, const char* format, va_list args) {
 }
 
 int Config::read(const ustring& path) {
-  const File file = path.empty() ? nullptr : OpenRegularFile(path);
+  const FileStream file = path.empty() ? nullptr : OpenRegularFile(path);
   if (file == nullptr) {
     return -1;
   }

@@ -21,6 +21,7 @@
 #include <vector>
 
 #include "fs-type.h"
+#include "owners.h"
 #include "path-resolve.h"
 #include "tmp_name_gen.h"
 
@@ -46,39 +47,10 @@ constexpr size_t kLinkTextSize = 1024;
 // Folders that a removal holds open at a time; a process may have no more than 256 descriptors.
 constexpr size_t kOpenFolders = 16;
 
-struct Freer {
-  void operator()(char* memory) const { std::free(memory); }
-};
-using Buffer = std::unique_ptr<char, Freer>;
-
-struct DirCloser {
-  void operator()(DIR* dir) const { closedir(dir); }
-};
-using DirStream = std::unique_ptr<DIR, DirCloser>;
-
 struct HandleCloser {
   void operator()(DIR_HANDLE* handle) const { FSCloseDir(*handle); }
 };
 using HandleGuard = std::unique_ptr<DIR_HANDLE, HandleCloser>;
-
-class Descriptor {
- public:
-  explicit Descriptor(int fd) : fd_(fd) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() { Close(); }
-
-  bool valid() const { return fd_ >= 0; }
-  int get() const { return fd_; }
-  void Close() {
-    if (valid()) {
-      close(std::exchange(fd_, -1));
-    }
-  }
-
- private:
-  int fd_;
-};
 
 // The umask belongs to the process, so its changes take turns: interleaved, two of them would
 // restore each other's 0.
@@ -241,15 +213,10 @@ class TreeRemover {
   };
 
   static DirStream Open(int folder, const char* name) {
-    const int fd = openat(folder, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-    if (fd < 0) {
-      return nullptr;
-    }
-    DirStream dir(fdopendir(fd));
-    if (dir == nullptr) {
-      const int error = errno;
-      close(fd);
-      errno = error;
+    Descriptor fd(openat(folder, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    DirStream dir(fd.valid() ? fdopendir(fd.get()) : nullptr);
+    if (dir != nullptr) {
+      fd.Release();  // the stream closes it
     }
     return dir;
   }
@@ -402,7 +369,7 @@ void BeginWriting([[maybe_unused]] int fd, [[maybe_unused]] off_t offset,
 }
 
 int CopyBytes(int from, int to) {
-  const Buffer buffer(static_cast<char*>(std::malloc(kCopyBlock)));
+  const CBuffer buffer(static_cast<char*>(std::malloc(kCopyBlock)));
   if (buffer == nullptr) {
     const int error = errno;
     LOG_ERROR(kComponent, "FSCopy: malloc(%d): %s (%d)\n", kCopyBlock, strerror(error), error);
@@ -545,7 +512,7 @@ int FSMKDirP(const ustring& path, char** failedAt, bool replace, unsigned short 
   if (path.empty()) {
     return -1;
   }
-  const Buffer copy(strdup(path.c_str()));
+  const CBuffer copy(strdup(path.c_str()));
   if (copy == nullptr) {
     return -1;
   }
