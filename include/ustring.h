@@ -256,10 +256,10 @@ class ustring {
 
   // Fills the UTF-16 form unless it is current.
   void update_wdata() const;
-  // Each rewrites one form from the other: 0, or -1 after a warning, with the target (and for the
-  // second both) empty.
-  int convert_from_data() const;
-  int convert_from_wdata();
+  // Each rewrites one form from the other. A failure is warned of and leaves the target (after the
+  // second both forms) empty.
+  void convert_from_data() const;
+  void convert_from_wdata();
   // Ends the UTF-16 text at `len` units and makes the UTF-8 text follow.
   ustring& finish_wdata(size_type len);
 

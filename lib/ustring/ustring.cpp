@@ -209,7 +209,7 @@ void ustring::update_wdata() const {
   }
 }
 
-int ustring::convert_from_data() const {
+void ustring::convert_from_data() const {
   int32_t length = 0;
   UErrorCode err = U_ZERO_ERROR;
   u_strFromUTF8(nullptr, 0, &length, data, -1, &err);
@@ -220,14 +220,13 @@ int ustring::convert_from_data() const {
   if (U_FAILURE(err)) {
     warn("u_strFromUTF8", err, kLineFromUtf8);
     clear_wdata();
-    return -1;
+    return;
   }
   wdata_len = static_cast<size_type>(length);
   wdata[wdata_len] = 0;
-  return 0;
 }
 
-int ustring::convert_from_wdata() {
+void ustring::convert_from_wdata() {
   int32_t length = 0;
   UErrorCode err = U_ZERO_ERROR;
   u_strToUTF8(nullptr, 0, &length, to_icu(wdata), -1, &err);
@@ -245,11 +244,10 @@ int ustring::convert_from_wdata() {
     warn("u_strToUTF8", err, kLineToUtf8);
     clear_data();
     clear_wdata();
-    return -1;
+    return;
   }
   data_len = static_cast<size_type>(length);
   data[data_len] = '\0';
-  return 0;
 }
 
 ustring& ustring::finish_wdata(size_type len) {
