@@ -41,9 +41,9 @@ class TmpNameGen {
   static void rc4_randomize(unsigned char* state, unsigned char* out, int count);
 
  private:
-  unsigned char m_state[256] = {};
-  unsigned char m_key[256] = {};
-  unsigned char m_output[6] = {};
+  unsigned char state_[256] = {};
+  unsigned char key_[256] = {};
+  unsigned char output_[6] = {};
 
   static pthread_mutex_t m_lock;  // over every draw, of any generator
 };

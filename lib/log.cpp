@@ -24,13 +24,13 @@ constexpr int kLineSize = 8192;
 // Callers test errno after they have logged it.
 class ErrnoKeeper {
  public:
-  ErrnoKeeper() : m_errno(errno) {}
-  ~ErrnoKeeper() { errno = m_errno; }
+  ErrnoKeeper() : saved_(errno) {}
+  ~ErrnoKeeper() { errno = saved_; }
   ErrnoKeeper(const ErrnoKeeper&) = delete;
   ErrnoKeeper& operator=(const ErrnoKeeper&) = delete;
 
  private:
-  const int m_errno;
+  const int saved_;
 };
 
 class Locked {

@@ -33,8 +33,9 @@ namespace {
 const ustring kComponent = "file_op_debug";
 
 constexpr int kFailed = -3;
+constexpr int kDiskFull = -2;
 constexpr int kPathTooLong = -100;
-constexpr int kDiscFull = -2;
+
 constexpr int kEntryInfo = 1;  // bit of DIR_HANDLE::flags
 constexpr unsigned short kModeByUmask = 0xFFFF;
 constexpr int kCopyBlock = 32 * 1024 * 1024;
@@ -351,7 +352,7 @@ int WriteAll(int fd, const char* data, size_t size) {
     if (written <= 0) {
       const int error = errno;
       LOG_ERROR(kComponent, "CopyFile: write: %s (%d)\n", strerror(error), error);
-      return error == ENOSPC || error == EDQUOT ? kDiscFull : -1;
+      return error == ENOSPC || error == EDQUOT ? kDiskFull : -1;
     }
     data += written;
     size -= static_cast<size_t>(written);
@@ -395,7 +396,7 @@ int CopyBytes(int from, int to) {
 
 // False when written bytes may have been lost; a destination that cannot be forced anywhere, a pipe
 // say, is no loss.
-bool ForceToDisc(int fd) {
+bool ForceToDisk(int fd) {
   if (RetryInterrupted([&] { return fsync(fd); }) == 0 || errno == EINVAL || errno == ENOTSUP) {
     return true;
   }
@@ -585,7 +586,7 @@ int FSCopy(const ustring& source, const ustring& destination, bool removeSource)
   const int result = CopyBytes(from.get(), to.get());
   from.Close();
   // The source goes only after its copy is safe, so that no moment and no failure leaves neither.
-  const bool safe = ForceToDisc(to.get());
+  const bool safe = ForceToDisk(to.get());
   if (result != 0 || !removeSource) {
     return result;
   }
