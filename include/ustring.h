@@ -263,12 +263,14 @@ class ustring {
   // Ends the UTF-16 text at `len` units and makes the UTF-8 text follow.
   ustring& finish_wdata(size_type len);
 
+  // NOLINTBEGIN(readability-identifier-naming): the documented names, in the documented order
   char* data;
   size_type data_len;
   size_type data_cap;
   mutable unsigned short* wdata;
   mutable size_type wdata_len;
   mutable size_type wdata_cap;
+  // NOLINTEND(readability-identifier-naming)
 };
 
 inline void swap(ustring& a, ustring& b) noexcept {

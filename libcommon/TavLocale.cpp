@@ -90,8 +90,9 @@ bool TavLocale::isLanguageInstalled(const QString& code) {
 
 QList<QString> TavLocale::getSupportedLanguages() {
   QList<QString> languages;
-  for (const char* const* code = grgszLanguages; *code != nullptr; ++code)
+  for (const char* const* code = grgszLanguages; *code != nullptr; ++code) {
     languages << QLatin1String(*code);
+  }
   return languages;
 }
 

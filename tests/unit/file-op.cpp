@@ -23,8 +23,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // Each test runs in a folder of its own. Failing system calls are covered by the sweep.
-class FileOp : public testing::Test {
- protected:
+struct FileOp : testing::Test {
   FileOp() {
     WriteFile(logs_ / "levels", "file_op_debug=7\n");
     EXPECT_EQ(Logger::Initialize(Logger::TYPE_FILE, logs_ / "log", logs_ / "levels", 50), 0);

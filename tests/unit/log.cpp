@@ -19,7 +19,8 @@ std::string g_system_log;  // what would have reached it, each line with its pri
 
 }  // namespace
 
-extern "C" void vsyslog(int priority, const char* format, va_list args) {
+extern "C" __attribute__((format(printf, 2, 0))) void vsyslog(int priority, const char* format,
+                                                              va_list args) {
   char text[256];
   vsnprintf(text, sizeof text, format, args);
   g_system_log += std::to_string(priority) + " " + text;
@@ -97,8 +98,7 @@ TEST(Config, KeepsItsEntriesWhenNothingCanBeRead) {
   }
 }
 
-class LoggerTest : public testing::Test {
- protected:
+struct LoggerTest : testing::Test {
   ~LoggerTest() override { Logger::Destroy(); }
 
   void Open(int rotations) {
@@ -170,8 +170,9 @@ TEST_F(LoggerTest, StampsEveryOutputButTheSystemLogWithTheLocalTime) {
   }
   const std::string out = testing::internal::GetCapturedStdout();
   const std::string err = testing::internal::GetCapturedStderr();
-  for (const std::string& text : {out, err, ReadFile(log)})
+  for (const std::string& text : {out, err, ReadFile(log)}) {
     EXPECT_EQ(possible.count(text), 1U) << text;
+  }
 
   write(Logger::TYPE_SYSLOG);
   EXPECT_EQ(g_system_log, "3 no end 2") << "no time, and one priority for all levels";
