@@ -1,4 +1,4 @@
-#include <syslog.h>  // before our own header, which replaces some of its constants
+#include <syslog.h>  // before log.h, which replaces some of its constants
 
 #include "log.h"
 
@@ -21,7 +21,7 @@ constexpr int64_t kRotationSize = 1048576;
 constexpr size_t kRotatedNameSize = 1024;
 constexpr int kLineSize = 8192;
 
-// Callers test errno after they have logged it.
+// Callers still test errno after logging it.
 class ErrnoKeeper {
  public:
   ErrnoKeeper() : saved_(errno) {}
@@ -60,7 +60,7 @@ bool IsFileType(Logger::Type type) {
 }
 
 int WriteTime(FILE* stream) {
-  // Once is enough: localtime() would look at the time zone's file again for every line.
+  // Once is enough: localtime() would check the time zone file again for every line.
   static const bool zone_known = (tzset(), true);
   const time_t now = time(nullptr);
   struct tm local = {};
@@ -78,7 +78,7 @@ bool FormRotatedName(char (&name)[kRotatedNameSize], const ustring& path, int in
 
 enum class Line { kEntry, kNothing, kMalformed };
 
-// The locale must not decide what a key may hold, so none of <cctype>.
+// Not <cctype>: the locale must not decide what a key may contain.
 bool IsBlank(char c) {
   return c == ' ' || (c >= '\t' && c <= '\r');
 }
@@ -131,8 +131,7 @@ Line ParseLine(const char* at, std::string* key, std::string* value) {
   return *at == '\0' || *at == '#' ? Line::kEntry : Line::kMalformed;
 }
 
-// Without O_NONBLOCK a pipe of this name would hold the process up for as long as nobody writes
-// into it.
+// Without O_NONBLOCK, opening a pipe of this name would block until somebody writes to it.
 FileStream OpenRegularFile(const ustring& path) {
   FileStream file(OpenStream(path, O_RDONLY | O_NONBLOCK, "r"));
   struct stat info = {};
@@ -212,8 +211,8 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
   if (log_lock == nullptr || InitializeSharedData() != 0) {
     return;
   }
-  // Only under the lock: a rotation has no stream for a moment, and a line that comes then must
-  // wait, not get lost.
+  // Only under the lock: during a rotation there is no stream for a moment, and a line that is
+  // logged then must wait, not get lost.
   if (log_type != TYPE_SYSLOG && log_fp == nullptr) {
     return;
   }
@@ -226,8 +225,8 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
 int Logger::Rotate() {
   char from[kRotatedNameSize];
   char to[kRotatedNameSize];
-  // Cut names would all be the same, and could be that of the log file itself. No index has more
-  // digits than the last.
+  // Truncated names would all be the same, and could even be the log file's own. The last index has
+  // the most digits.
   if (log_path.empty() || !FormRotatedName(to, log_path, rotate_cnt - 1)) {
     return -1;
   }
@@ -289,7 +288,7 @@ void Logger::InitializeLock() {
   if (log_lock.compare_exchange_strong(none, mutex.get())) {
     (void)mutex.release();
   } else {
-    pthread_mutex_destroy(mutex.get());  // another thread was first
+    pthread_mutex_destroy(mutex.get());  // another thread was faster
   }
 }
 
@@ -347,7 +346,7 @@ void Logger::CloseLogFile() {
   }
 }
 
-// Another writer has rotated: our stream still writes into what is now an old file.
+// Another writer has rotated, so our stream still writes to what is now an old file.
 void Logger::FollowRotation() {
   if (log_rotated_count_private != *log_rotated_count_shared) {
     ReloadLogFile();
@@ -360,7 +359,7 @@ bool Logger::IsWanted(Level level, const ustring& component) {
   return level <= (configured != log_level.end() ? configured->second : LEVEL_WARNING);
 }
 
-// Returns the bytes that count towards rotation, negative when writing failed.
+// Returns the bytes that count towards rotation; negative when writing failed.
 int64_t Logger::Write(const char* format, va_list args) {
   switch (log_type) {
     case TYPE_SYSLOG:
