@@ -1,4 +1,4 @@
-# The toolkit's plug-ins that a bundle brings along: platforms, and what those load when a window opens.
+# Qt's plug-ins that a bundle brings along: platforms, and what those load when a window opens.
 
 include_guard(GLOBAL)
 
