@@ -1,25 +1,22 @@
-# Qt's plug-ins that a bundle brings along: platforms, and what those load when a window opens.
+# Qt's plug-ins that a bundle brings along.
 
 include_guard(GLOBAL)
 
-# lumivo_qt_plugins(RESULT): the files. Each belongs into a folder named like the one it lies in.
+# lumivo_qt_plugins(RESULT): the files. Each belongs into a folder named like the one it lies in. A dialog without input
+# fields needs a platform and nothing else: no OpenGL, no input methods, no image formats beyond Qt's own.
 function(lumivo_qt_plugins result)
   if(APPLE)
-    set(needed QCocoaIntegrationPlugin QOffscreenIntegrationPlugin QMinimalIntegrationPlugin)
-    set(useful QMacStylePlugin)
+    set(plugins QCocoaIntegrationPlugin QOffscreenIntegrationPlugin QMacStylePlugin)
   else()
-    set(needed QXcbIntegrationPlugin QOffscreenIntegrationPlugin QMinimalIntegrationPlugin)
-    set(useful QXcbGlxIntegrationPlugin QXcbEglIntegrationPlugin QComposePlatformInputContextPlugin
-               QIbusPlatformInputContextPlugin)
+    set(plugins QXcbIntegrationPlugin QOffscreenIntegrationPlugin)
   endif()
   set(files "")
-  foreach(plugin IN LISTS needed useful)
-    if(TARGET Qt5::${plugin})
-      get_target_property(file Qt5::${plugin} LOCATION)
-      list(APPEND files "${file}")
-    elseif(plugin IN_LIST needed)
-      message(FATAL_ERROR "Qt has no ${plugin}, without which the bundle cannot start")
+  foreach(plugin IN LISTS plugins)
+    if(NOT TARGET Qt5::${plugin})
+      message(FATAL_ERROR "Qt has no ${plugin}, which the bundle needs")
     endif()
+    get_target_property(file Qt5::${plugin} LOCATION)
+    list(APPEND files "${file}")
   endforeach()
   set(${result} "${files}" PARENT_SCOPE)
 endfunction()
