@@ -2,21 +2,20 @@
 
 include_guard(GLOBAL)
 
-# lumivo_qt_plugins(RESULT): the files. Each belongs into a folder named like the one it lies in. A dialog without input
-# fields needs a platform and nothing else: no OpenGL, no input methods, no image formats beyond Qt's own.
+# lumivo_qt_plugins(RESULT): each as FOLDER/TARGET, for the target Qt5::TARGET, whose file belongs into the plug-in folder
+# FOLDER. A dialog without input fields needs a platform and nothing else: no OpenGL, no input methods, and no image
+# formats beyond Qt's own.
 function(lumivo_qt_plugins result)
   if(APPLE)
-    set(plugins QCocoaIntegrationPlugin QOffscreenIntegrationPlugin QMacStylePlugin)
+    set(plugins platforms/QCocoaIntegrationPlugin platforms/QOffscreenIntegrationPlugin styles/QMacStylePlugin)
   else()
-    set(plugins QXcbIntegrationPlugin QOffscreenIntegrationPlugin)
+    set(plugins platforms/QXcbIntegrationPlugin platforms/QOffscreenIntegrationPlugin)
   endif()
-  set(files "")
   foreach(plugin IN LISTS plugins)
-    if(NOT TARGET Qt5::${plugin})
-      message(FATAL_ERROR "Qt has no ${plugin}, which the bundle needs")
+    cmake_path(GET plugin FILENAME name)
+    if(NOT TARGET Qt5::${name})
+      message(FATAL_ERROR "Qt has no ${name}, which the bundle needs")
     endif()
-    get_target_property(file Qt5::${plugin} LOCATION)
-    list(APPEND files "${file}")
   endforeach()
-  set(${result} "${files}" PARENT_SCOPE)
+  set(${result} "${plugins}" PARENT_SCOPE)
 endfunction()

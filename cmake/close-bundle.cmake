@@ -5,6 +5,8 @@
 # On Linux nothing that is copied changes: the executable's DT_RPATH leads to it. On macOS each file names the places of
 # the libraries that it loads; these are rewritten, and since that breaks signatures, each file gets one of its own.
 
+cmake_policy(VERSION 3.25)
+
 # What the platform itself has: glibc's family, and what macOS keeps where programs may not write.
 set(platform_libraries
     "^ld-linux" "^lib(c|m|mvec|dl|pthread|rt|resolv|util|nsl|anl|thread_db|BrokenLocale|nss_[a-z]+)\\.so\\."
@@ -13,6 +15,7 @@ set(platform_libraries
 # lumivo_close_bundle(CONTENTS EXECUTABLE PLUGINS): EXECUTABLE and PLUGINS are the files that were installed into CONTENTS,
 # at the places that they came from: their libraries are looked for from there.
 function(lumivo_close_bundle contents executable plugins)
+  cmake_path(ABSOLUTE_PATH contents NORMALIZE)
   if(otool)
     set(CMAKE_GET_RUNTIME_DEPENDENCIES_PLATFORM macos+macho)
     set(CMAKE_GET_RUNTIME_DEPENDENCIES_TOOL otool)
@@ -29,14 +32,15 @@ function(lumivo_close_bundle contents executable plugins)
   if(otool)
     cmake_path(GET executable FILENAME name)
     # Beside its bundle the executable is signed as a plain file. Inside, it would stand for the whole bundle.
-    file(RENAME "${contents}/MacOS/${name}" "${contents}/../../${name}.closing")
+    cmake_path(SET outside NORMALIZE "${contents}/../../${name}.closing")
+    file(RENAME "${contents}/MacOS/${name}" "${outside}")
     file(GLOB_RECURSE files LIST_DIRECTORIES false "${contents}/Frameworks/*")
-    foreach(file IN LISTS files ITEMS "${contents}/../../${name}.closing")
+    foreach(file IN LISTS files ITEMS "${outside}")
       if(NOT IS_SYMLINK "${file}" AND NOT file MATCHES "\\.framework/.*/Resources/")
         lumivo_close_mach_o("${file}" "${contents}/Frameworks")
       endif()
     endforeach()
-    file(RENAME "${contents}/../../${name}.closing" "${contents}/MacOS/${name}")
+    file(RENAME "${outside}" "${contents}/MacOS/${name}")
   endif()
 endfunction()
 
@@ -65,9 +69,9 @@ function(lumivo_close_mach_o file frameworks)
   string(REPLACE "Load command" ";" commands "${commands}")
   set(changes "")
   foreach(command IN LISTS commands)
-    if(command MATCHES "cmd LC_ID_DYLIB.* name (.+) \\(offset")
-      lumivo_place_in_bundle(place "${CMAKE_MATCH_1}" "${frameworks}")
-      list(APPEND changes -id "${place}")
+    if(command MATCHES "cmd LC_ID_DYLIB")
+      file(RELATIVE_PATH name "${frameworks}" "${file}")
+      list(APPEND changes -id "@executable_path/../Frameworks/${name}")
     elseif(command MATCHES "cmd LC_[A-Z_]*(LOAD|REEXPORT)[A-Z_]*_DYLIB.* name (.+) \\(offset")
       set(old "${CMAKE_MATCH_2}")
       if(NOT old MATCHES "^(/usr/lib|/System)/")
@@ -76,9 +80,9 @@ function(lumivo_close_mach_o file frameworks)
       endif()
     elseif(command MATCHES "cmd LC_RPATH.* path (.+) \\(offset")
       list(APPEND changes -delete_rpath "${CMAKE_MATCH_1}")
-    elseif(command MATCHES "cmd LC_(BUILD_VERSION|VERSION_MIN_MACOSX).* (minos|version) ([0-9.]+)")
-      if(CMAKE_MATCH_3 VERSION_GREATER macos_minimum)
-        message(FATAL_ERROR "${file} needs macOS ${CMAKE_MATCH_3}, and the bundle promises to start on ${macos_minimum}: "
+    elseif(command MATCHES "cmd (LC_BUILD_VERSION.* minos|LC_VERSION_MIN_MACOSX.* version) ([0-9.]+)")
+      if(CMAKE_MATCH_2 VERSION_GREATER macos_minimum)
+        message(FATAL_ERROR "${file} needs macOS ${CMAKE_MATCH_2}, and the bundle promises to start on ${macos_minimum}: "
                             "use a library built for that, or set CMAKE_OSX_DEPLOYMENT_TARGET")
       endif()
     endif()
@@ -92,9 +96,6 @@ endfunction()
 function(lumivo_place_in_bundle result name frameworks)
   string(REGEX MATCH "[^/]+\\.framework/.*$|[^/]+$" name "${name}")
   if(NOT EXISTS "${frameworks}/${name}")
-    file(GLOB_RECURSE name RELATIVE "${frameworks}" "${frameworks}/plugins/*/${name}")
-  endif()
-  if(NOT EXISTS "${frameworks}/${name}" OR IS_DIRECTORY "${frameworks}/${name}")
     message(FATAL_ERROR "${name} is loaded, and was not copied to ${frameworks}")
   endif()
   set(${result} "@executable_path/../Frameworks/${name}" PARENT_SCOPE)
