@@ -2,8 +2,9 @@
 # Runs at install time, with the tools for macOS in `otool`, `install_name_tool` and `codesign` where there are any, and
 # the oldest system that the bundle starts on in `macos_minimum`.
 #
-# On Linux nothing that is copied changes: the executable's DT_RPATH leads to it. On macOS each file names the places of
-# the libraries that it loads; these are rewritten, and since that breaks signatures, each file gets one of its own.
+# On Linux the executable's DT_RPATH leads to all of them, and whatever paths they have of their own, which would hide it,
+# are removed. On macOS each file names the places of the libraries that it loads; these are rewritten, and since that
+# breaks signatures, each file gets one of its own.
 
 cmake_policy(VERSION 3.25)
 
@@ -29,19 +30,23 @@ function(lumivo_close_bundle contents executable plugins)
   list(LENGTH libraries count)
   message(STATUS "Closed: ${contents}, ${count} libraries")
 
-  if(otool)
-    cmake_path(GET executable FILENAME name)
-    # Beside its bundle the executable is signed as a plain file. Inside, it would stand for the whole bundle.
-    cmake_path(SET outside NORMALIZE "${contents}/../../${name}.closing")
-    file(RENAME "${contents}/MacOS/${name}" "${outside}")
-    file(GLOB_RECURSE files LIST_DIRECTORIES false "${contents}/Frameworks/*")
-    foreach(file IN LISTS files ITEMS "${outside}")
-      if(NOT IS_SYMLINK "${file}" AND NOT file MATCHES "\\.framework/.*/Resources/")
-        lumivo_close_mach_o("${file}" "${contents}/Frameworks")
-      endif()
+  file(GLOB_RECURSE files LIST_DIRECTORIES false "${contents}/Frameworks/*")
+  if(NOT otool)
+    foreach(file IN LISTS files)
+      file(RPATH_REMOVE FILE "${file}")
     endforeach()
-    file(RENAME "${outside}" "${contents}/MacOS/${name}")
+    return()
   endif()
+  # Beside its bundle the executable is signed as a plain file. Inside, it would stand for the whole bundle.
+  cmake_path(GET executable FILENAME name)
+  cmake_path(SET outside NORMALIZE "${contents}/../../${name}.closing")
+  file(RENAME "${contents}/MacOS/${name}" "${outside}")
+  foreach(file IN LISTS files ITEMS "${outside}")
+    if(NOT IS_SYMLINK "${file}" AND NOT file MATCHES "\\.framework/.*/Resources/")
+      lumivo_close_mach_o("${file}" "${contents}/Frameworks")
+    endif()
+  endforeach()
+  file(RENAME "${outside}" "${contents}/MacOS/${name}")
 endfunction()
 
 # A library by the name that it is loaded by; a framework with its links and without what only building needs.
@@ -55,9 +60,6 @@ function(lumivo_copy_library library frameworks)
     file(COPY_FILE "${library}" "${frameworks}/${name}")
     file(CHMOD "${frameworks}/${name}"
          PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
-    if(NOT otool)
-      file(RPATH_REMOVE FILE "${frameworks}/${name}")
-    endif()
   endif()
 endfunction()
 

@@ -13,7 +13,6 @@ set(CMAKE_CXX_FLAGS_INIT "-F\"${CMAKE_CURRENT_LIST_DIR}\"")
 # CMake's own trials need no linking: each would build a C++ library, and wait for it.
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
 find_program(CMAKE_INSTALL_NAME_TOOL NAMES llvm-install-name-tool llvm-install-name-tool-14 REQUIRED)
-find_program(CMAKE_OTOOL NAMES llvm-otool llvm-otool-14 REQUIRED)
 
 # Headers and libraries are this host's.
 set(CMAKE_LIBRARY_ARCHITECTURE x86_64-linux-gnu)
