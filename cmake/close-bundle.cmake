@@ -67,7 +67,7 @@ endfunction()
 function(lumivo_close_mach_o file frameworks)
   execute_process(COMMAND "${otool}" -l "${file}" OUTPUT_VARIABLE commands COMMAND_ERROR_IS_FATAL ANY)
   # Each load command begins with its kind, and what it names stands some lines below.
-  string(REGEX REPLACE "[;[]" "" commands "${commands}")
+  string(REGEX REPLACE "[][;]" "" commands "${commands}")
   string(REPLACE "Load command" ";" commands "${commands}")
   set(changes "")
   foreach(command IN LISTS commands)
