@@ -211,15 +211,17 @@ void CheckReport(const Operation& operation, const Fault& fault, const Outcome& 
 TEST(Sweep, EveryFaultIsReportedAndLosesNothing) {
   for (const Operation& operation : kOperations) {
     for (const Fault& fault : kFaults) {
-      std::string call = "none yet";
-      for (int number = 1; !call.empty(); ++number) {
-        const Outcome outcome = RunUnderFault(operation, fault, number);
+      std::string call;
+      int number = 0;
+      do {
+        const Outcome outcome = RunUnderFault(operation, fault, ++number);
         call = outcome.call;
         SCOPED_TRACE(testing::Message() << operation.name << ": call " << number << ", " << call
                                         << ", " << fault.mode << " " << strerror(fault.error));
         CheckWhatIsLeft(operation, outcome);
         CheckReport(operation, fault, outcome);
-      }
+      } while (!call.empty());
+      EXPECT_GT(number, 1) << "no call met a fault: is the library loaded?";
     }
   }
 }
