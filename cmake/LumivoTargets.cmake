@@ -24,10 +24,13 @@ function(lumivo_library target alias)
   lumivo_defaults(${target})
 endfunction()
 
-# lumivo_host_source(TARGET BASE): adds BASE-mac.cpp or BASE-posix.cpp, whichever this host needs.
+# lumivo_host_source(TARGET BASE): adds the source file of this host: BASE-mac.cpp on macOS, elsewhere BASE-linux.cpp, or
+# BASE-posix.cpp where one file serves every other host.
 function(lumivo_host_source target base)
   if(APPLE)
     target_sources(${target} PRIVATE ${base}-mac.cpp)
+  elseif(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${base}-linux.cpp")
+    target_sources(${target} PRIVATE ${base}-linux.cpp)
   else()
     target_sources(${target} PRIVATE ${base}-posix.cpp)
   endif()
