@@ -24,8 +24,15 @@ os.execv(sys.argv[1], sys.argv[1:])
 class StartedClient(Case):
     def start_client(self, **options):
         self.begin(package=BUILD)
+        self.set_client_mode("report")
         self.run_launcher(**options)
         return self.wait_for_client()
+
+    def signals(self, state):
+        """The signals that were in that state when the client was started."""
+        status = (self.home / "client-signals").read_text()
+        mask = int(re.search(rf"^{state}:\s+(\w+)$", status, re.MULTILINE)[1], 16)
+        return [number for number in signal.valid_signals() if mask >> (number - 1) & 1]
 
     def test_it_leads_a_session_of_its_own(self):
         client = self.start_client()
@@ -35,13 +42,8 @@ class StartedClient(Case):
         for command in ((), (sys.executable, "-c", HAND_DOWN)):
             with self.subTest(command):
                 client = self.start_client(command=command)
-                status = pathlib.Path(f"/proc/{client}/status").read_text()
-                for state in ("SigBlk", "SigIgn"):
-                    mask = int(re.search(rf"^{state}:\s+(\w+)$", status, re.MULTILINE)[1], 16)
-                    signals = {
-                        number for number in signal.valid_signals() if mask >> number - 1 & 1
-                    }
-                    self.assertEqual(signals, set(), state)
+                self.assertEqual(self.signals("SigBlk"), [])
+                self.assertEqual(self.signals("SigIgn"), [])
                 files = pathlib.Path(f"/proc/{client}/fd").iterdir()
                 opened = {os.readlink(file) for file in files}
                 # The shell that runs the client holds its script open.
@@ -52,9 +54,9 @@ class StartedClient(Case):
         for zone in (None, ":/etc/localtime", "Asia/Tokyo"):
             with self.subTest(zone=zone):
                 client = self.start_client(TZ=zone)
-                environment = pathlib.Path(f"/proc/{client}/environ").read_bytes()
+                environment = pathlib.Path(f"/proc/{client}/environ").read_text()
                 given = [f"{name}={text}" for name, text in self.environment(TZ=zone).items()]
-                self.assertCountEqual(environment.decode().rstrip("\0").split("\0"), given)
+                self.assertCountEqual(environment.rstrip("\0").split("\0"), given)
 
 
 if __name__ == "__main__":
