@@ -25,10 +25,7 @@ ORDINARY_USER = NOBODY if ROOT else None
 # The comment makes the client as large as a program.
 CLIENT = pathlib.Path(__file__).with_name("client.sh").read_text() + "#" * 100_000
 PAUSE_SECONDS = 0.02
-# For what is made once and never changed; it is removed when the program ends.
-SHARED_FOLDER = tempfile.TemporaryDirectory(prefix="lumivo-shared-")
-SHARED = pathlib.Path(SHARED_FOLDER.name).resolve()
-SHARED.chmod(0o755)
+MEMORY, ENOUGH_BYTES = "/dev/shm", 1 << 30
 
 
 def wait_for(condition, what, seconds=20):
@@ -64,6 +61,22 @@ def tree(folder):
         else:
             found[name] = ("file", path.read_bytes(), bool(info.st_mode & stat.S_IXUSR))
     return found
+
+
+def choose_temporary_folder():
+    """Memory, where there is enough: the launcher forces to the disk what it writes."""
+    if not os.access(MEMORY, os.W_OK):
+        return
+    space = os.statvfs(MEMORY)
+    if space.f_bavail * space.f_frsize >= ENOUGH_BYTES and not space.f_flag & os.ST_NOEXEC:
+        tempfile.tempdir = MEMORY
+
+
+choose_temporary_folder()
+# For what is made once and never changed; it is removed when the program ends.
+SHARED_FOLDER = tempfile.TemporaryDirectory(prefix="lumivo-shared-")
+SHARED = pathlib.Path(SHARED_FOLDER.name).resolve()
+SHARED.chmod(0o755)
 
 
 def link_or_copy(source, destination):

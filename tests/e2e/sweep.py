@@ -54,8 +54,7 @@ class SweepCase(UpgradeCase):
 
     def run_sweep(self, sweep):
         """Until a run makes fewer calls than the next one that is to be tried."""
-        for number in sweep.calls_to_try():
-            error = sweep.errors[number % len(sweep.errors)]
+        for number, error in zip(sweep.calls_to_try(), itertools.cycle(sweep.errors)):
             self.begin(sweep.installed)
             if sweep.damage:
                 sweep.damage(self)
