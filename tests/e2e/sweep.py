@@ -29,6 +29,13 @@ class Sweep:
     damage: Optional[Callable] = None  # of the package
     next_damage: Optional[Callable] = None  # of the package that the start after the fault finds
 
+    def __str__(self):
+        """What is particular to it."""
+        values = {field: getattr(self, field.name) for field in dataclasses.fields(self)}
+        return ", ".join(
+            f"{field.name}={value}" for field, value in values.items() if value != field.default
+        )
+
     def calls_to_try(self):
         if self.numbers is not None:
             return self.numbers
@@ -72,7 +79,7 @@ class SweepCase(UpgradeCase):
             self.assert_old_or_new(sweep)
         if sweep.next_damage:
             self.upgrade(NEW, OLD, NEW, damage=sweep.next_damage)
-        self.assert_next_starts_mend()
+        self.assert_next_starts_mend(is_part_left=sweep.next_damage is not None)
 
     def assert_old_or_new(self, sweep):
         build = self.build_on_disk()
