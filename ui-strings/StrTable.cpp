@@ -858,7 +858,7 @@ void InitStrTable() {
   Row(492, "col_file_name", QT_TRANSLATE_NOOP("global", "File name"));
   Row(493, "title_changefolder", QT_TRANSLATE_NOOP("global", "Change folder"));
   Row(494, "wizard_setup_quick_mode_desc",
-      QT_TRANSLATE_NOOP("global", "Sync your home folder with the recommended settings."));
+      QT_TRANSLATE_NOOP("global", "Sync your home folder using the recommended settings."));
   Row(495, "selective_sync_loading", QT_TRANSLATE_NOOP("global", "Loading folders..."));
   Row(496, "wednesday", QT_TRANSLATE_NOOP("global", "Wednesday"));
   Row(497, "title_ssl_enable", QT_TRANSLATE_NOOP("global", "SSL encryption"));

@@ -22,6 +22,9 @@ FULL = os.environ.get("LUMIVO_FULL") == "1"
 ROOT, NOBODY = os.geteuid() == 0, 65534
 # For what only a user meets whom file modes stop; None is the user who runs the tests.
 ORDINARY_USER = NOBODY if ROOT else None
+PROPERTIES = (
+    "<plist><dict><key>CFBundleExecutable</key><string>lumivo-drive-ui</string></dict></plist>\n"
+)
 # The comment makes the client as large as a program.
 CLIENT = pathlib.Path(__file__).with_name("client.sh").read_text() + "#" * 100_000
 PAUSE_SECONDS = 0.02
@@ -109,6 +112,7 @@ def make_client(app, build, files):
     """
     resources = app / "Contents/Resources"
     (resources / "help").mkdir(parents=True)
+    (app / "Contents/Info.plist").write_text(PROPERTIES)
     (resources / "help/tool.sh").write_text("#!/bin/sh\n")
     (resources / "help/tool.sh").chmod(0o755)
     (resources / "help/latest").symlink_to("../Größe 図/é.txt")

@@ -65,7 +65,7 @@ std::string ParentFolder(const std::string& path) {
 ///
 /// The file system itself is asked where a folder lies, so that links behind links, other spellings
 /// and names that the archive uses twice cannot deceive it. As long as the archive made no link,
-/// nothing is looked up.
+/// nothing is looked up, and later no folder twice.
 class LinkGuard {
  public:
   explicit LinkGuard(const std::string& folder) : folder_(folder) {}
@@ -74,19 +74,11 @@ class LinkGuard {
   /// own name belongs to the way; anything else is replaced, not followed.
   bool StaysInside(const std::string& path, bool isFolder) {
     if (!hasLinks_) return true;
-    std::string way = isFolder ? path : ParentFolder(path);
+    const std::string way =
+        isFolder ? path.substr(0, path.find_last_not_of('/') + 1) : ParentFolder(path);
     if (inside_.count(way) != 0) return true;
-
-    // What is missing is made by the writer, within the last folder that is there.
-    std::string resolved = RealPath(way);
-    for (std::string there = way; resolved.empty();) {
-      if (errno != ENOENT || IsLink(there) || there == "/") return false;
-      there = ParentFolder(there);
-      resolved = RealPath(there);
-    }
-    const bool inside = !root_.empty() && resolved.compare(0, root_.size(), root_) == 0 &&
-                        (resolved.size() == root_.size() || resolved[root_.size()] == '/');
-    if (inside) inside_.insert(std::move(way));
+    const bool inside = IsInKnownFolder(way) || LeadsInside(way);
+    if (inside) inside_.insert(way);
     return inside;
   }
 
@@ -101,6 +93,29 @@ class LinkGuard {
   }
 
  private:
+  // What lies in a folder that is inside is inside itself, unless it is a link. This takes one
+  // look, and LeadsInside() one for every folder on the way.
+  bool IsInKnownFolder(const std::string& way) const {
+    if (inside_.count(ParentFolder(way)) == 0) return false;
+    const size_t slash = way.rfind('/');
+    if (slash == std::string::npos || way.compare(slash, std::string::npos, "/..") == 0)
+      return false;
+    struct stat info = {};
+    return lstat(way.c_str(), &info) == 0 ? !S_ISLNK(info.st_mode) : errno == ENOENT;
+  }
+
+  bool LeadsInside(const std::string& way) const {
+    // What is missing is made by the writer, within the last folder that is there.
+    std::string resolved = RealPath(way);
+    for (std::string there = way; resolved.empty();) {
+      if (errno != ENOENT || IsLink(there) || there == "/") return false;
+      there = ParentFolder(there);
+      resolved = RealPath(there);
+    }
+    return !root_.empty() && resolved.compare(0, root_.size(), root_) == 0 &&
+           (resolved.size() == root_.size() || resolved[root_.size()] == '/');
+  }
+
   const std::string folder_;
   std::string root_;
   std::set<std::string> inside_;
@@ -145,11 +160,10 @@ bool HasItsDirectory(struct archive* opened, const ustring& path) {
   const bool isZip = (archive_format(opened) & ARCHIVE_FORMAT_BASE_MASK) == ARCHIVE_FORMAT_ZIP;
   if (!isZip || archive_filter_code(opened, 0) != ARCHIVE_FILTER_NONE) return true;
 
+  // This reader opens nothing without a directory. What is in it, the other one has read.
   const ArchiveReader reader(archive_read_new());
-  struct archive_entry* entry = nullptr;
   return reader && archive_read_support_format_zip_seekable(reader.get()) == ARCHIVE_OK &&
-         archive_read_open_filename(reader.get(), path.c_str(), kBlockSize) == ARCHIVE_OK &&
-         archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK;
+         archive_read_open_filename(reader.get(), path.c_str(), kBlockSize) == ARCHIVE_OK;
 }
 
 // Whether the name is that of the folder which it is put below: "", ".", "/./".

@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>Click here to update</source>
-        <translation>单击此处进行更新</translation>
+        <translation>单击此处更新</translation>
     </message>
     <message>
         <source>Folder path</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>当前 Lumivo Drive Server 版本过旧。请在您的服务器上进行更新。</translation>
+        <translation>当前 Lumivo Drive Server 版本过旧。请在您的服务器上更新。</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -985,7 +985,7 @@
     </message>
     <message>
         <source>The shared folder &quot;%1&quot; is available on &quot;%2&quot;. Click here to sync it.</source>
-        <translation>“%2”上有可用的共享文件夹“%1”。单击此处进行同步。</translation>
+        <translation>“%2”上有可用的共享文件夹“%1”。单击此处即可同步。</translation>
     </message>
     <message>
         <source>Keyword</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>当前 Lumivo Drive 版本过旧。请在这台电脑上进行更新。</translation>
+        <translation>当前 Lumivo Drive 版本过旧。请在这台电脑上更新。</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1761,7 +1761,7 @@
     </message>
     <message>
         <source>Continue anyway</source>
-        <translation>仍然继续</translation>
+        <translation>仍要继续</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -1812,7 +1812,7 @@
         <translation>更改文件夹</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>使用推荐设置同步您的个人文件夹。</translation>
     </message>
     <message>

@@ -1812,7 +1812,7 @@
         <translation>變更資料夾</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>以建議的設定同步您的個人資料夾。</translation>
     </message>
     <message>

@@ -1812,8 +1812,8 @@
         <translation>Změnit složku</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
-        <translation>Synchronizujte domovskou složku s doporučeným nastavením.</translation>
+        <source>Sync your home folder using the recommended settings.</source>
+        <translation>Synchronizujte domovskou složku pomocí doporučeného nastavení.</translation>
     </message>
     <message>
         <source>Loading folders...</source>

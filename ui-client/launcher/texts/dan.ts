@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>The folder is not empty. Its files will be merged with the files on your server.</source>
-        <translation>Mappen er ikke tom. Dens filer flettes med filerne på din server.</translation>
+        <translation>Mappen er ikke tom. Filerne i den flettes med filerne på din server.</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -1812,7 +1812,7 @@
         <translation>Skift mappe</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synkroniser din hjemmemappe med de anbefalede indstillinger.</translation>
     </message>
     <message>

@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Diese Version von Lumivo Drive Server ist zu alt. Führen Sie auf Ihrem Server ein Update durch.</translation>
+        <translation>Diese Version von Lumivo Drive Server ist zu alt. Aktualisieren Sie Lumivo Drive Server auf Ihrem Server.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>Diese Version von Lumivo Drive ist zu alt für Ihren Server. Führen Sie ein Update auf Version %1 oder höher durch.</translation>
+        <translation>Diese Version von Lumivo Drive ist zu alt für Ihren Server. Aktualisieren Sie Lumivo Drive auf Version %1 oder höher.</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Diese Version von Lumivo Drive Server ist zu alt für Lumivo Drive auf diesem Computer. Führen Sie auf Ihrem Server ein Update auf Version %1 oder höher durch.</translation>
+        <translation>Diese Version von Lumivo Drive Server ist zu alt für Lumivo Drive auf diesem Computer. Aktualisieren Sie Lumivo Drive Server auf Ihrem Server auf Version %1 oder höher.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Diese Version von Lumivo Drive ist zu alt. Führen Sie auf diesem Computer ein Update durch.</translation>
+        <translation>Diese Version von Lumivo Drive ist zu alt. Aktualisieren Sie Lumivo Drive auf diesem Computer.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1812,7 +1812,7 @@
         <translation>Ordner ändern</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synchronisieren Sie Ihren persönlichen Ordner mit den empfohlenen Einstellungen.</translation>
     </message>
     <message>

@@ -1812,8 +1812,8 @@
         <translation>Change folder</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
-        <translation>Sync your home folder with the recommended settings.</translation>
+        <source>Sync your home folder using the recommended settings.</source>
+        <translation>Sync your home folder using the recommended settings.</translation>
     </message>
     <message>
         <source>Loading folders...</source>

@@ -1812,7 +1812,7 @@
         <translation>Cambiar carpeta</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Sincronice su carpeta personal con los ajustes recomendados.</translation>
     </message>
     <message>

@@ -1812,7 +1812,7 @@
         <translation>Changer de dossier</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synchronisez votre dossier personnel avec les paramètres recommandés.</translation>
     </message>
     <message>

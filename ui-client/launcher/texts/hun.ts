@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Files with these names will not be synced.</source>
-        <translation>Az ilyen nevű fájlok nem lesznek szinkronizálva.</translation>
+        <translation>Az ilyen nevű fájlok nem szinkronizálódnak.</translation>
     </message>
     <message>
         <source>Could not connect to your server. Check your network connection and try again.</source>
@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
-        <translation>Azok a mappák, amelyeknek itt törli a jelölését, el lesznek távolítva erről a számítógépről. A szerveren megmaradnak.</translation>
+        <translation>A program eltávolítja erről a számítógépről azokat a mappákat, amelyeknek itt törli a jelölését. A szerveren megmaradnak.</translation>
     </message>
     <message>
         <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
@@ -565,7 +565,7 @@
     </message>
     <message>
         <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
-        <translation>A hozzáférését visszavonták, és a szinkronizált fájlok el lettek távolítva erről a számítógépről. Forduljon a rendszergazdához.</translation>
+        <translation>A hozzáférését visszavonták, és a szinkronizált fájlokat eltávolították erről a számítógépről. Forduljon a rendszergazdához.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -925,7 +925,7 @@
     </message>
     <message>
         <source>The files in both folders will be merged.</source>
-        <translation>A két mappában lévő fájlok egyesítve lesznek.</translation>
+        <translation>A program egyesíti a két mappában lévő fájlokat.</translation>
     </message>
     <message>
         <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>The folder is not empty. Its files will be merged with the files on your server.</source>
-        <translation>A mappa nem üres. A benne lévő fájlok egyesítve lesznek a szerveren lévő fájlokkal.</translation>
+        <translation>A mappa nem üres. A program a benne lévő fájlokat egyesíti a szerveren lévőkkel.</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -1573,7 +1573,7 @@
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
-        <translation>Ez a megosztott mappa a továbbiakban nem lesz szinkronizálva. A számítógépen már meglévő fájlok megmaradnak.</translation>
+        <translation>Ez a megosztott mappa a továbbiakban nem szinkronizálódik. A számítógépen már meglévő fájlok megmaradnak.</translation>
     </message>
     <message>
         <source>File extensions to skip</source>
@@ -1597,7 +1597,7 @@
     </message>
     <message>
         <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
-        <translation>Nem rendszergazdaként jelentkezett be. A Lumivo Drive csak az Ön számára lesz telepítve.\nFolytatja?</translation>
+        <translation>Nem rendszergazdaként jelentkezett be. A telepítő csak az Ön számára telepíti a Lumivo Drive alkalmazást.\nFolytatja?</translation>
     </message>
     <message>
         <source>Links cannot be created because the file service is turned off. Ask your administrator to turn it on.</source>
@@ -1689,7 +1689,7 @@
     </message>
     <message>
         <source>You can only read this folder. Changes on this computer will not be uploaded.</source>
-        <translation>Ezt a mappát csak olvashatja. Az ezen a számítógépen végzett módosítások nem lesznek feltöltve.</translation>
+        <translation>Ezt a mappát csak olvashatja. Az ezen a számítógépen végzett módosítások nem töltődnek fel.</translation>
     </message>
     <message>
         <source>You do not have access to this folder. Ask your administrator for permission.</source>
@@ -1812,8 +1812,8 @@
         <translation>Mappa módosítása</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
-        <translation>Szinkronizálja a saját mappáját az ajánlott beállításokkal.</translation>
+        <source>Sync your home folder using the recommended settings.</source>
+        <translation>Szinkronizálja a saját mappáját az ajánlott beállítások alapján.</translation>
     </message>
     <message>
         <source>Loading folders...</source>

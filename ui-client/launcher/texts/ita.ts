@@ -1233,7 +1233,7 @@
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
-        <translation>Immettere l’indirizzo del server o il relativo ID ZephLink, il nome utente e la password.</translation>
+        <translation>Immettere l’indirizzo o l’ID ZephLink del server, il nome utente e la password.</translation>
     </message>
     <message>
         <source>Could not create the folder &quot;%1&quot;. Check its path and your permissions.</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>The folder is not empty. Its files will be merged with the files on your server.</source>
-        <translation>La cartella non è vuota. I relativi file verranno uniti a quelli sul server.</translation>
+        <translation>La cartella non è vuota. I file che contiene verranno uniti a quelli sul server.</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -1812,7 +1812,7 @@
         <translation>Cambia cartella</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Sincronizza la cartella personale con le impostazioni consigliate.</translation>
     </message>
     <message>

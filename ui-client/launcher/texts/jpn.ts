@@ -1812,7 +1812,7 @@
         <translation>フォルダーを変更</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>推奨設定でホームフォルダーを同期します。</translation>
     </message>
     <message>

@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Could not enable syncing for this shared folder. Try again later.</source>
-        <translation>이 공유 폴더의 동기화를 사용하도록 설정할 수 없습니다. 나중에 다시 시도하십시오.</translation>
+        <translation>이 공유 폴더의 동기화를 켤 수 없습니다. 나중에 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>To</source>
@@ -1812,7 +1812,7 @@
         <translation>폴더 변경</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>권장 설정으로 홈 폴더를 동기화합니다.</translation>
     </message>
     <message>

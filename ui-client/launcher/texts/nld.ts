@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Deze versie van Lumivo Drive Server is te oud. Werk deze bij op je server.</translation>
+        <translation>Deze versie van Lumivo Drive Server is te oud. Werk Lumivo Drive Server op je server bij.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>Deze versie van Lumivo Drive is te oud voor je server. Werk deze bij naar versie %1 of hoger.</translation>
+        <translation>Deze versie van Lumivo Drive is te oud voor je server. Werk Lumivo Drive bij naar versie %1 of hoger.</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
-        <translation>Deze versie van Lumivo Drive Server is te oud voor Lumivo Drive op deze computer. Werk deze op je server bij naar versie %1 of hoger.</translation>
+        <translation>Deze versie van Lumivo Drive Server is te oud voor Lumivo Drive op deze computer. Werk Lumivo Drive Server op je server bij naar versie %1 of hoger.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -1249,7 +1249,7 @@
     </message>
     <message>
         <source>Folder filter</source>
-        <translation>Mapfilter</translation>
+        <translation>Mappenfilter</translation>
     </message>
     <message>
         <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Deze versie van Lumivo Drive is te oud. Werk deze bij op deze computer.</translation>
+        <translation>Deze versie van Lumivo Drive is te oud. Werk Lumivo Drive op deze computer bij.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1812,7 +1812,7 @@
         <translation>Map wijzigen</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synchroniseer je thuismap met de aanbevolen instellingen.</translation>
     </message>
     <message>

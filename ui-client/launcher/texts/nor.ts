@@ -1812,7 +1812,7 @@
         <translation>Bytt mappe</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synkroniser hjemmemappen din med de anbefalte innstillingene.</translation>
     </message>
     <message>

@@ -1325,7 +1325,7 @@
     </message>
     <message>
         <source>The connection to your server was lost. It will be restored automatically.</source>
-        <translation>Utracono połączenie z serwerem. Zostanie ono przywrócone automatycznie.</translation>
+        <translation>Utracono połączenie z serwerem. Zostanie automatycznie przywrócone.</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -1812,7 +1812,7 @@
         <translation>Zmień folder</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synchronizuj folder domowy, używając zalecanych ustawień.</translation>
     </message>
     <message>

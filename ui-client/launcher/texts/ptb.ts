@@ -1812,7 +1812,7 @@
         <translation>Alterar pasta</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Sincronize a sua pasta pessoal com as configurações recomendadas.</translation>
     </message>
     <message>

@@ -1812,8 +1812,8 @@
         <translation>Изменение папки</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
-        <translation>Синхронизируйте домашнюю папку с рекомендуемыми настройками.</translation>
+        <source>Sync your home folder using the recommended settings.</source>
+        <translation>Синхронизируйте домашнюю папку, используя рекомендуемые настройки.</translation>
     </message>
     <message>
         <source>Loading folders...</source>

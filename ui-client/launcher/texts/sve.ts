@@ -1812,7 +1812,7 @@
         <translation>Byt mapp</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synkronisera din hemmapp med rekommenderade inställningar.</translation>
     </message>
     <message>

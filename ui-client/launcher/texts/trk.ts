@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Could not enable syncing for this shared folder. Try again later.</source>
-        <translation>Bu paylaşılan klasörün eşitlenmesi etkinleştirilemedi. Daha sonra yeniden deneyin.</translation>
+        <translation>Bu paylaşılan klasör için eşitleme etkinleştirilemedi. Daha sonra yeniden deneyin.</translation>
     </message>
     <message>
         <source>To</source>
@@ -733,7 +733,7 @@
     </message>
     <message>
         <source>Created</source>
-        <translation>Oluşturulma</translation>
+        <translation>Oluşturulma tarihi</translation>
     </message>
     <message>
         <source>Keep the files on this computer and on your server in sync.</source>
@@ -1005,7 +1005,7 @@
     </message>
     <message>
         <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
-        <translation>Kurulum programı Lumivo Drive uygulamasını değiştirebilir, onarabilir veya kaldırabilir. Devam etmek için İleri’ye tıklayın.</translation>
+        <translation>Kurulum programı, Lumivo Drive uygulamasını değiştirebilir, onarabilir veya kaldırabilir. Devam etmek için İleri’ye tıklayın.</translation>
     </message>
     <message>
         <source>Select a folder on your server and a folder on this computer.</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
-        <translation>Ağ sürücüsündeki değişiklikler algılanamaz. Yerel diskteki bir klasörü seçin.</translation>
+        <translation>Ağ sürücüsündeki değişiklikler algılanamaz. Yerel diskte bir klasör seçin.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1685,7 +1685,7 @@
     </message>
     <message>
         <source>Setup is ready to repair Lumivo Drive.</source>
-        <translation>Kurulum programı Lumivo Drive uygulamasını onarmaya hazır.</translation>
+        <translation>Kurulum programı, Lumivo Drive uygulamasını onarmaya hazır.</translation>
     </message>
     <message>
         <source>You can only read this folder. Changes on this computer will not be uploaded.</source>
@@ -1812,8 +1812,8 @@
         <translation>Klasörü değiştir</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
-        <translation>Ana klasörünüzü önerilen ayarlarla eşitleyin.</translation>
+        <source>Sync your home folder using the recommended settings.</source>
+        <translation>Ana klasörünüzü önerilen ayarları kullanarak eşitleyin.</translation>
     </message>
     <message>
         <source>Loading folders...</source>
