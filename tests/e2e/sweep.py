@@ -31,9 +31,9 @@ class Sweep:
 
     def __str__(self):
         """What is particular to it."""
-        values = {field: getattr(self, field.name) for field in dataclasses.fields(self)}
+        values = [(field, getattr(self, field.name)) for field in dataclasses.fields(self)]
         return ", ".join(
-            f"{field.name}={value}" for field, value in values.items() if value != field.default
+            f"{field.name}={value}" for field, value in values if value != field.default
         )
 
     def calls_to_try(self):
@@ -69,7 +69,9 @@ class SweepCase(UpgradeCase):
             if len(calls) < number:
                 self.assertGreater(number, sweep.first, f"no such call: {sweep}")
                 return
-            with self.subTest(sweep, number=number, call=calls[-1], error=os.strerror(error)):
+            with self.subTest(
+                sweep, number=number, call=calls[number - 1], error=os.strerror(error)
+            ):
                 self.assert_survived(sweep, status)
 
     def assert_survived(self, sweep, status):
