@@ -49,7 +49,7 @@ class ConcurrentStarts(UpgradeCase):
     def test_copies_at_different_places_take_turns(self):
         copy = self.copy_bundle("Copy.app")
         self.put_package(NEXT, copy)
-        for _ in range(30 if FULL else 8):
+        for _ in range(30 if FULL else 5):
             self.begin()
             self.assert_all_end_well(self.start(), self.start(bundle=copy))
             self.assert_installed(self.package(NEXT).nodes)
