@@ -24,14 +24,14 @@ function(lumivo_library target alias)
   lumivo_defaults(${target})
 endfunction()
 
-# lumivo_host_source(TARGET BASE): adds the source file of this host: BASE-mac.cpp on macOS, elsewhere BASE-linux.cpp, or
-# BASE-posix.cpp where one file serves every other host.
+# lumivo_host_source(TARGET BASE): adds BASE-mac.cpp on macOS, elsewhere BASE-linux.cpp where there is one, or else
+# BASE-posix.cpp.
 function(lumivo_host_source target base)
+  set(host posix)
   if(APPLE)
-    target_sources(${target} PRIVATE ${base}-mac.cpp)
+    set(host mac)
   elseif(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${base}-linux.cpp")
-    target_sources(${target} PRIVATE ${base}-linux.cpp)
-  else()
-    target_sources(${target} PRIVATE ${base}-posix.cpp)
+    set(host linux)
   endif()
+  target_sources(${target} PRIVATE ${base}-${host}.cpp)
 endfunction()

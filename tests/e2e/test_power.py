@@ -78,15 +78,14 @@ def is_milestone(call):
 
 
 def cuts(calls):
-    """The cuts to try in a run that makes these calls. The short suite meets every condition, but not at every call."""
+    """The cuts to try in a run that makes these calls; the long suite tries its milestones under all conditions."""
     step = 10 if FULL else len(calls) // 3
+    conditions = itertools.cycle(CONDITIONS)
     numbers = [n for n, call in enumerate(calls, 1) if is_milestone(call) or n % step == 0]
-    if FULL:
-        return [Cut(number, *condition) for number in (*numbers, None) for condition in CONDITIONS]
-    return [
-        Cut(number, *condition)
-        for number, condition in zip((*numbers, None), itertools.cycle(CONDITIONS))
-    ]
+    for number in (*numbers, None):
+        is_thorough = FULL and (number is None or is_milestone(calls[number - 1]))
+        for condition in CONDITIONS if is_thorough else [next(conditions)]:
+            yield Cut(number, *condition)
 
 
 class Power(Case):

@@ -6,13 +6,13 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <set>
 #include <string>
 
 #include "StrTable.h"
+#include "file/real-path.h"
 #include "file/write-barrier.h"
 #include "notify-adapter.h"
 #include "text-ids.h"
@@ -37,16 +37,6 @@ struct WriterCloser {
   void operator()(struct archive* writer) const { archive_write_free(writer); }
 };
 using ArchiveWriter = std::unique_ptr<struct archive, WriterCloser>;
-
-struct Freer {
-  void operator()(char* text) const { free(text); }
-};
-
-// The path as the kernel sees it, every link followed; empty when it leads nowhere.
-std::string RealPath(const std::string& path) {
-  const std::unique_ptr<char, Freer> resolved(realpath(path.c_str(), nullptr));
-  return resolved ? resolved.get() : std::string();
-}
 
 bool IsLink(const std::string& path) {
   struct stat info = {};

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <chrono>
@@ -31,20 +30,16 @@ bool IsHeldElsewhere(int fd) {
 }  // namespace
 
 InstallationLock::InstallationLock(const ustring& folder)
-    : folder_(folder), fd_(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
-
-InstallationLock::~InstallationLock() {
-  if (fd_ >= 0) close(fd_);
-}
+    : folder_(folder), lock_(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
 
 bool InstallationLock::Acquire() {
-  if (fd_ < 0 || !IsHeldElsewhere(fd_)) return true;
+  if (!lock_.valid() || !IsHeldElsewhere(lock_.get())) return true;
 
   LOG_NOTE(kComponent, "another launcher is working on '%s', waiting for it\n", folder_.c_str());
   const auto deadline = steady_clock::now() + kPatience;
   while (steady_clock::now() < deadline) {
     std::this_thread::sleep_for(kProbeInterval);
-    if (!IsHeldElsewhere(fd_)) return true;
+    if (!IsHeldElsewhere(lock_.get())) return true;
   }
   LOG_WARNING(kComponent, "another launcher is still working on '%s', leaving it alone\n",
               folder_.c_str());

@@ -1,22 +1,17 @@
 #pragma once
 
+#include "owners.h"
 #include "ustring.h"
 
 /// A launcher's turn to work on the per-user installation.
 ///
 /// Copies of the launcher at different paths are separate single instances, yet share the
 /// installation of their user. They take turns by an exclusive lock (`flock`) on its folder, which
-/// the kernel drops when the holder ends, however it ends.
+/// the kernel drops when the holder ends, however it ends. The turn ends with the object.
 class InstallationLock {
  public:
   /// Opens `folder`, the per-user installation folder. Nothing is locked yet.
   explicit InstallationLock(const ustring& folder);
-
-  /// Gives the turn back.
-  ~InstallationLock();
-
-  InstallationLock(const InstallationLock&) = delete;
-  InstallationLock& operator=(const InstallationLock&) = delete;
 
   /// Waits until no other launcher holds the lock, ten seconds at most. Logs a line when it has to
   /// wait, and another one when the time is over.
@@ -28,5 +23,5 @@ class InstallationLock {
 
  private:
   const ustring folder_;
-  const int fd_;
+  const Descriptor lock_;
 };
