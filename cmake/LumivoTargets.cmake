@@ -33,13 +33,14 @@ function(lumivo_library target alias)
   endif()
 endfunction()
 
-# lumivo_host_source(TARGET BASE): adds the one of BASE-mac.cpp, BASE-linux.cpp and BASE-posix.cpp that this host needs.
+# lumivo_host_source(TARGET BASE): adds BASE-mac.cpp on macOS, elsewhere BASE-linux.cpp where there is one, or else
+# BASE-posix.cpp.
 function(lumivo_host_source target base)
+  set(host posix)
   if(APPLE)
-    target_sources(${target} PRIVATE ${base}-mac.cpp)
+    set(host mac)
   elseif(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${base}-linux.cpp")
-    target_sources(${target} PRIVATE ${base}-linux.cpp)
-  else()
-    target_sources(${target} PRIVATE ${base}-posix.cpp)
+    set(host linux)
   endif()
+  target_sources(${target} PRIVATE ${base}-${host}.cpp)
 endfunction()

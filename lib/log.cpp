@@ -1,8 +1,9 @@
+#include <syslog.h>  // before log.h, which replaces some of its constants
+
 #include "log.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <syslog.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -12,27 +13,24 @@
 #include <sstream>
 #include <string>
 
+#include "owners.h"
+
 namespace {
 
 constexpr int64_t kRotationSize = 1048576;
 constexpr size_t kRotatedNameSize = 1024;
 constexpr int kLineSize = 8192;
 
-struct FileCloser {
-  void operator()(FILE* stream) const { fclose(stream); }
-};
-using File = std::unique_ptr<FILE, FileCloser>;
-
-// Callers test errno after they have logged it.
+// Callers still test errno after logging it.
 class ErrnoKeeper {
  public:
-  ErrnoKeeper() : m_errno(errno) {}
-  ~ErrnoKeeper() { errno = m_errno; }
+  ErrnoKeeper() : saved_(errno) {}
+  ~ErrnoKeeper() { errno = saved_; }
   ErrnoKeeper(const ErrnoKeeper&) = delete;
   ErrnoKeeper& operator=(const ErrnoKeeper&) = delete;
 
  private:
-  const int m_errno;
+  const int saved_;
 };
 
 class Locked {
@@ -45,13 +43,10 @@ class Locked {
 
 // fopen has no portable way to ask for close-on-exec.
 FILE* OpenStream(const ustring& path, int flags, const char* mode) {
-  const int fd = open(path.c_str(), flags | O_CLOEXEC, 0666);
-  if (fd < 0) {
-    return nullptr;
-  }
-  FILE* stream = fdopen(fd, mode);
-  if (stream == nullptr) {
-    close(fd);
+  Descriptor fd(open(path.c_str(), flags | O_CLOEXEC, 0666));
+  FILE* stream = fd.valid() ? fdopen(fd.get(), mode) : nullptr;
+  if (stream != nullptr) {
+    fd.Release();  // the stream closes it
   }
   return stream;
 }
@@ -65,7 +60,7 @@ bool IsFileType(Logger::Type type) {
 }
 
 int WriteTime(FILE* stream) {
-  // Once is enough: localtime() would look at the time zone's file again for every line.
+  // Once is enough: localtime() would check the time zone file again for every line.
   static const bool zone_known = (tzset(), true);
   const time_t now = time(nullptr);
   struct tm local = {};
@@ -83,7 +78,7 @@ bool FormRotatedName(char (&name)[kRotatedNameSize], const ustring& path, int in
 
 enum class Line { kEntry, kNothing, kMalformed };
 
-// The locale must not decide what a key may hold, so none of <cctype>.
+// Not <cctype>: the locale must not decide what a key may contain.
 bool IsBlank(char c) {
   return c == ' ' || (c >= '\t' && c <= '\r');
 }
@@ -136,10 +131,9 @@ Line ParseLine(const char* at, std::string* key, std::string* value) {
   return *at == '\0' || *at == '#' ? Line::kEntry : Line::kMalformed;
 }
 
-// Without O_NONBLOCK a pipe of this name would hold the process up for as long as nobody writes
-// into it.
-File OpenRegularFile(const ustring& path) {
-  File file(OpenStream(path, O_RDONLY | O_NONBLOCK, "r"));
+// Without O_NONBLOCK, opening a pipe of this name would block until somebody writes to it.
+FileStream OpenRegularFile(const ustring& path) {
+  FileStream file(OpenStream(path, O_RDONLY | O_NONBLOCK, "r"));
   struct stat info = {};
   if (file != nullptr && (fstat(fileno(file.get()), &info) != 0 || !S_ISREG(info.st_mode))) {
     file.reset();
@@ -217,8 +211,8 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
   if (log_lock == nullptr || InitializeSharedData() != 0) {
     return;
   }
-  // Only under the lock: a rotation has no stream for a moment, and a line that comes then must
-  // wait, not get lost.
+  // Only under the lock: during a rotation there is no stream for a moment, and a line that is
+  // logged then must wait, not get lost.
   if (log_type != TYPE_SYSLOG && log_fp == nullptr) {
     return;
   }
@@ -231,9 +225,12 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* format, 
 int Logger::Rotate() {
   char from[kRotatedNameSize];
   char to[kRotatedNameSize];
-  // Cut names would all be the same, and could be that of the log file itself. No index has more
-  // digits than the last.
+  // Truncated names would all be the same, and could even be the log file's own. The last index has
+  // the most digits.
   if (log_path.empty() || !FormRotatedName(to, log_path, rotate_cnt - 1)) {
+    return -1;
+  }
+  if (InitializeSharedData() != 0) {
     return -1;
   }
   for (int i = rotate_cnt - 2; i >= 0; --i) {
@@ -291,7 +288,7 @@ void Logger::InitializeLock() {
   if (log_lock.compare_exchange_strong(none, mutex.get())) {
     (void)mutex.release();
   } else {
-    pthread_mutex_destroy(mutex.get());  // another thread was first
+    pthread_mutex_destroy(mutex.get());  // another thread was faster
   }
 }
 
@@ -349,7 +346,7 @@ void Logger::CloseLogFile() {
   }
 }
 
-// Another writer has rotated: our stream still writes into what is now an old file.
+// Another writer has rotated, so our stream still writes to what is now an old file.
 void Logger::FollowRotation() {
   if (log_rotated_count_private != *log_rotated_count_shared) {
     ReloadLogFile();
@@ -362,7 +359,7 @@ bool Logger::IsWanted(Level level, const ustring& component) {
   return level <= (configured != log_level.end() ? configured->second : LEVEL_WARNING);
 }
 
-// Returns the bytes that count towards rotation, negative when writing failed.
+// Returns the bytes that count towards rotation; negative when writing failed.
 int64_t Logger::Write(const char* format, va_list args) {
   switch (log_type) {
     case TYPE_SYSLOG:
@@ -402,7 +399,7 @@ void LogMSG_c(int level, char* component, const char* format, va_list args) {
 }
 
 int Config::read(const ustring& path) {
-  const File file = path.empty() ? nullptr : OpenRegularFile(path);
+  const FileStream file = path.empty() ? nullptr : OpenRegularFile(path);
   if (file == nullptr) {
     return -1;
   }

@@ -11,13 +11,13 @@ namespace {
 
 class Locked {
  public:
-  explicit Locked(pthread_mutex_t* mutex) : m_mutex(mutex) { pthread_mutex_lock(m_mutex); }
-  ~Locked() { pthread_mutex_unlock(m_mutex); }
+  explicit Locked(pthread_mutex_t* mutex) : mutex_(mutex) { pthread_mutex_lock(mutex_); }
+  ~Locked() { pthread_mutex_unlock(mutex_); }
   Locked(const Locked&) = delete;
   Locked& operator=(const Locked&) = delete;
 
  private:
-  pthread_mutex_t* const m_mutex;
+  pthread_mutex_t* const mutex_;
 };
 
 }  // namespace
@@ -25,8 +25,8 @@ class Locked {
 pthread_mutex_t TmpNameGen::m_lock = PTHREAD_MUTEX_INITIALIZER;
 
 TmpNameGen::TmpNameGen() {
-  get_key(m_key, sizeof m_key);
-  rc4_init(m_state, m_key);
+  get_key(key_, sizeof key_);
+  rc4_init(state_, key_);
 }
 
 TmpNameGen* TmpNameGen::getInstance() {
@@ -38,9 +38,9 @@ ustring TmpNameGen::getTmpName() {
   static const char map[] = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_";
   char name[9] = {};
   const Locked locked(&m_lock);
-  rc4_randomize(m_state, m_output, sizeof m_output);
+  rc4_randomize(state_, output_, sizeof output_);
   for (size_t group = 0; group < 2; ++group) {
-    const unsigned char* const bytes = m_output + group * 3;
+    const unsigned char* const bytes = output_ + group * 3;
     const unsigned bits =
         static_cast<unsigned>(bytes[0]) << 16 | static_cast<unsigned>(bytes[1]) << 8 | bytes[2];
     for (size_t i = 0; i < 4; ++i) {

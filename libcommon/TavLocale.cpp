@@ -14,8 +14,8 @@ constexpr unsigned kLanguageSlots = sizeof(grgszLanguages) / sizeof(grgszLanguag
 
 const QString qstrLanguageFallSafe = QStringLiteral("enu");
 
-// The debug messages name their places by numbers that stay put when this file changes, so that
-// saved output of any release can be compared.
+// The line numbers in the debug messages. They stay the same when this file changes, so that the
+// output of different releases can be compared.
 constexpr char kUnitPath[] = "libcommon/TavLocale";
 enum DebugPlace {
   kLocaleRead = 64,
@@ -24,7 +24,7 @@ enum DebugPlace {
   kCatalogFound = 161
 };
 
-// `lineBreak` is "\n" for the two values that a person looks for first, and empty for the others.
+// `lineBreak` is "\n" for the two values that matter most to a reader, and empty for the others.
 void Debug(DebugPlace place, const char* expression, const QString& value,
            const char* lineBreak = "") {
   QMessageLogger(nullptr, 0, nullptr, "default")
@@ -66,7 +66,7 @@ QString TavLocale::getDefaultLanguage() {
   Debug(kLocaleRead, "qPrintable(qstrLocaleLower)", qstrLocaleLower, "\n");
   Debug(kLocaleLookedUp, "qPrintable(qstrLocaleLower)", qstrLocaleLower);
 
-  // Whole names come first: the same language is written in two ways in these regions.
+  // Whole names come first: in these regions the language is written differently.
   QString qstrDef;
   if (IsOneOf(qstrLocaleLower, {"zh_tw", "zh_hk", "zh_mo"})) {
     qstrDef = QStringLiteral("cht");
@@ -90,8 +90,9 @@ bool TavLocale::isLanguageInstalled(const QString& code) {
 
 QList<QString> TavLocale::getSupportedLanguages() {
   QList<QString> languages;
-  for (const char* const* code = grgszLanguages; *code != nullptr; ++code)
+  for (const char* const* code = grgszLanguages; *code != nullptr; ++code) {
     languages << QLatin1String(*code);
+  }
   return languages;
 }
 
@@ -100,7 +101,8 @@ QString TavLocale::getStrLanguageFallSafe() {
 }
 
 QString TavLocale::getLanguageAbbrByID(int id) {
-  // Seen as unsigned, a negative id is beyond the end too; the slot at the end holds no code.
+  // As unsigned, a negative id is beyond the end, too. The last slot holds the null that ends the
+  // table.
   if (static_cast<unsigned>(id) >= kLanguageSlots) return QString();
   return QLatin1String(grgszLanguages[id]);
 }

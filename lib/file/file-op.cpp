@@ -1,5 +1,5 @@
 // Paths go to the system byte for byte as given; only existence tests and reported paths use the
-// composed form. Every errno is taken down before anything else is called.
+// composed form. Every errno is saved before anything else is called.
 
 #include "file/file-op.h"
 
@@ -14,12 +14,14 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "fs-type.h"
+#include "owners.h"
 #include "path-resolve.h"
 #include "tmp_name_gen.h"
 
@@ -31,63 +33,43 @@ namespace {
 const ustring kComponent = "file_op_debug";
 
 constexpr int kFailed = -3;
+constexpr int kDiskFull = -2;
 constexpr int kPathTooLong = -100;
-constexpr int kDiscFull = -2;
+
 constexpr int kEntryInfo = 1;  // bit of DIR_HANDLE::flags
 constexpr unsigned short kModeByUmask = 0xFFFF;
 constexpr int kCopyBlock = 32 * 1024 * 1024;
-// Written in one go, blocks took up to twice the processor's time on a virtual machine with little
-// memory at hand.
+// Writing a whole block at once took up to twice the CPU time on a virtual machine that was short
+// of memory.
 constexpr size_t kWriteSlice = 128 * 1024;
 constexpr size_t kTemplateSize = 4096;
 constexpr size_t kLinkTextSize = 1024;
 
-// Folders that a removal holds open at a time; a process may have no more than 256 descriptors.
+// Folders that a removal keeps open at a time. A process may be limited to 256 descriptors.
 constexpr size_t kOpenFolders = 16;
-
-struct Freer {
-  void operator()(char* memory) const { std::free(memory); }
-};
-using Buffer = std::unique_ptr<char, Freer>;
-
-struct DirCloser {
-  void operator()(DIR* dir) const { closedir(dir); }
-};
-using DirStream = std::unique_ptr<DIR, DirCloser>;
 
 struct HandleCloser {
   void operator()(DIR_HANDLE* handle) const { FSCloseDir(*handle); }
 };
 using HandleGuard = std::unique_ptr<DIR_HANDLE, HandleCloser>;
 
-class Descriptor {
- public:
-  explicit Descriptor(int fd) : fd_(fd) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() { Close(); }
-
-  bool valid() const { return fd_ >= 0; }
-  int get() const { return fd_; }
-  void Close() {
-    if (valid()) {
-      close(std::exchange(fd_, -1));
-    }
-  }
-
- private:
-  int fd_;
-};
-
+// The umask belongs to the process. Only one thread changes it at a time; otherwise two could
+// restore each other's 0.
 class NoUmask {
  public:
-  NoUmask() : previous_(umask(0)) {}
+  NoUmask() : turn_(Turns()), previous_(umask(0)) {}
   NoUmask(const NoUmask&) = delete;
   NoUmask& operator=(const NoUmask&) = delete;
   ~NoUmask() { umask(previous_); }
 
  private:
-  mode_t previous_;
+  static std::mutex& Turns() {
+    static std::mutex turns;
+    return turns;
+  }
+
+  const std::lock_guard<std::mutex> turn_;
+  const mode_t previous_;
 };
 
 template <typename Call>
@@ -106,7 +88,7 @@ ustring Join(const ustring& folder, const std::string& name) {
   return path;
 }
 
-// Normalises a copy: the operation fills a cache in its source, and callers may share a path
+// Normalizes a copy, because normalizing fills a cache in its source, and callers may share a path
 // between threads.
 ustring Composed(const ustring& path) {
   const char* begin = path.c_str();
@@ -159,7 +141,7 @@ void LogInputPath(const ustring& path) {
   LOG_DEBUG(kComponent, "Input file path = [%s].\n", Composed(path).c_str());
 }
 
-// Returns the composed form that it logs.
+// Returns the composed form, which is what it logs.
 ustring LogResolvedPath(const ustring& resolved) {
   ustring composed = Composed(resolved);
   LOG_DEBUG(kComponent, "FSRefMakePath outTargetPath path = [%s].\n", composed.c_str());
@@ -184,8 +166,9 @@ void FillInfo(const ustring& path, const struct stat& status, _FILE_INFO_tag& in
   info.type = TypeOfMode(status.st_mode);
 }
 
-// The names in an open folder but "." and "..", all read before the caller changes the folder: what
-// a stream reports after that differs between file systems. A failing read ends the list.
+// The names in an open folder except "." and "..". All are read before the caller changes the
+// folder, because file systems differ in what a stream reports after that. A read that fails ends
+// the list.
 std::vector<std::string> ReadNames(DIR_HANDLE& handle) {
   std::vector<std::string> names;
   DIR_ENTRY entry;
@@ -198,13 +181,13 @@ std::vector<std::string> ReadNames(DIR_HANDLE& handle) {
   return names;
 }
 
-// Removes a folder tree relative to descriptors of its folders, so that it neither fails on paths
-// too long for the system nor leaves the tree by a link that takes a folder's place meanwhile.
-// Without recursion, because a tree can be deeper than a thread's stack; with a limited number of
-// open folders, because it can be deeper than their limit.
+// Removes a folder tree relative to descriptors of its folders. That way paths too long for the
+// system are no problem, and a link that replaces a folder meanwhile cannot lead out of the tree. A
+// tree can be deeper than a thread's stack and than the limit of descriptors, so there is no
+// recursion, and only a few folders are open at a time.
 class TreeRemover {
  public:
-  // `resolved` is what the file system calls `path`.
+  // `resolved` is `path` as the file system spells it.
   TreeRemover(const ustring& path, const ustring& resolved) : path_(path), resolved_(resolved) {}
 
   bool Run() {
@@ -224,7 +207,7 @@ class TreeRemover {
  private:
   struct Level {
     std::string name;  // in the folder above
-    DirStream dir;     // none while more than kOpenFolders folders are entered below
+    DirStream dir;     // closed while the walk is more than kOpenFolders folders below
     dev_t dev;
     ino_t ino;
     std::vector<std::string> names;
@@ -232,20 +215,15 @@ class TreeRemover {
   };
 
   static DirStream Open(int folder, const char* name) {
-    const int fd = openat(folder, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-    if (fd < 0) {
-      return nullptr;
-    }
-    DirStream dir(fdopendir(fd));
-    if (dir == nullptr) {
-      const int error = errno;
-      close(fd);
-      errno = error;
+    Descriptor fd(openat(folder, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    DirStream dir(fd.valid() ? fdopendir(fd.get()) : nullptr);
+    if (dir != nullptr) {
+      fd.Release();  // the stream closes it
     }
     return dir;
   }
 
-  // Removes anything but a folder, which is entered instead. One that cannot be entered stays.
+  // Removes anything but a folder; a folder is entered, or left alone if that fails.
   bool Remove(int folder, const std::string& name) {
     struct stat status;
     if (fstatat(folder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
@@ -290,8 +268,8 @@ class TreeRemover {
     return true;
   }
 
-  // Removes the folder whose entries have gone; closed first, because some file systems keep what
-  // is open.
+  // Removes the folder that is now empty. It is closed first, because some file systems keep
+  // folders that are open.
   bool Leave() {
     Level done = std::move(levels_.back());
     levels_.pop_back();
@@ -311,7 +289,8 @@ class TreeRemover {
   static bool Reopen(Level& level, int child) {
     level.dir = Open(child, "..");
     struct stat status;
-    // A folder that was moved meanwhile has another parent, which is not ours to empty.
+    // If the child was moved meanwhile, its parent is a different folder, which is not ours to
+    // empty.
     return level.dir != nullptr && fstat(dirfd(level.dir.get()), &status) == 0 &&
            status.st_dev == level.dev && status.st_ino == level.ino;
   }
@@ -321,8 +300,8 @@ class TreeRemover {
     resolved_.assign(resolved_.c_str(), resolved_.length() - name.length() - 1);
   }
 
-  ustring path_;      // of the folder that is being emptied
-  ustring resolved_;  // the same, as the file system calls it
+  ustring path_;      // the folder that is being emptied
+  ustring resolved_;  // the same, as the file system spells it
   std::vector<Level> levels_;
 };
 
@@ -369,13 +348,13 @@ bool IsSameRegularFile(int fd, const ustring& path) {
 
 int WriteAll(int fd, const char* data, size_t size) {
   while (size > 0) {
-    errno = 0;  // so that a write of nothing reports nothing that came before it
+    errno = 0;  // a write of 0 bytes leaves it alone, and an earlier error must not be reported
     const ssize_t written =
         RetryInterrupted([&] { return write(fd, data, std::min(size, kWriteSlice)); });
     if (written <= 0) {
       const int error = errno;
       LOG_ERROR(kComponent, "CopyFile: write: %s (%d)\n", strerror(error), error);
-      return error == ENOSPC || error == EDQUOT ? kDiscFull : -1;
+      return error == ENOSPC || error == EDQUOT ? kDiskFull : -1;
     }
     data += written;
     size -= static_cast<size_t>(written);
@@ -383,8 +362,8 @@ int WriteAll(int fd, const char* data, size_t size) {
   return 0;
 }
 
-// Has the disc write while the next block is read, where the system can be asked to: the end has
-// less to wait for then.
+// Asks the system, where it can be asked, to start writing to the disk while the next block is
+// read, so that there is less to wait for at the end.
 void BeginWriting([[maybe_unused]] int fd, [[maybe_unused]] off_t offset,
                   [[maybe_unused]] off_t size) {
 #ifdef POSIX_FADV_DONTNEED
@@ -393,7 +372,7 @@ void BeginWriting([[maybe_unused]] int fd, [[maybe_unused]] off_t offset,
 }
 
 int CopyBytes(int from, int to) {
-  const Buffer buffer(static_cast<char*>(std::malloc(kCopyBlock)));
+  const CBuffer buffer(static_cast<char*>(std::malloc(kCopyBlock)));
   if (buffer == nullptr) {
     const int error = errno;
     LOG_ERROR(kComponent, "FSCopy: malloc(%d): %s (%d)\n", kCopyBlock, strerror(error), error);
@@ -417,9 +396,9 @@ int CopyBytes(int from, int to) {
   }
 }
 
-// False when written bytes may have been lost; a destination that cannot be forced anywhere, a pipe
-// say, is no loss.
-bool ForceToDisc(int fd) {
+// False when bytes may have been lost. It doesn't matter if the destination cannot be flushed at
+// all, like a pipe.
+bool ForceToDisk(int fd) {
   if (RetryInterrupted([&] { return fsync(fd); }) == 0 || errno == EINVAL || errno == ENOTSUP) {
     return true;
   }
@@ -483,7 +462,8 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {
     LOG_ERROR(kComponent, "FSPathMakeRef: %d\n", error);
     return -1;
   }
-  info.path = LogResolvedPath(resolved);
+  const ustring composed = LogResolvedPath(resolved);
+  info.path = composed.empty() ? resolved : composed;  // ill-formed text has no composed form
   info.name = FSBaseName(info.path);
   return 0;
 }
@@ -535,7 +515,7 @@ int FSMKDirP(const ustring& path, char** failedAt, bool replace, unsigned short 
   if (path.empty()) {
     return -1;
   }
-  const Buffer copy(strdup(path.c_str()));
+  const CBuffer copy(strdup(path.c_str()));
   if (copy == nullptr) {
     return -1;
   }
@@ -596,7 +576,7 @@ int FSCopy(const ustring& source, const ustring& destination, bool removeSource)
   if (!from.valid()) {
     return -1;
   }
-  // Opening the destination empties it, and with it the source when both are one file.
+  // Opening the destination truncates it, and the source with it if both are the same file.
   if (IsSameRegularFile(from.get(), destination)) {
     LogCopyOpenFailure(destination, EINVAL);
     return -1;
@@ -607,8 +587,8 @@ int FSCopy(const ustring& source, const ustring& destination, bool removeSource)
   }
   const int result = CopyBytes(from.get(), to.get());
   from.Close();
-  // The source goes only after its copy is safe, so that no moment and no failure leaves neither.
-  const bool safe = ForceToDisc(to.get());
+  // The source is removed only once the copy is safe, so that one of them exists at any time.
+  const bool safe = ForceToDisk(to.get());
   if (result != 0 || !removeSource) {
     return result;
   }
@@ -647,13 +627,17 @@ int FSRemove(const ustring& path, [[maybe_unused]] bool flag) {
   if (!info.exist) {
     return 0;
   }
-  // With a "/" behind it a link would stand for the folder that it points to.
+  // With a "/" after it, a link would stand for the folder that it points to.
   ustring target = path;
   target.rtrim("/");
-  if (target.empty()) {
-    return kFailed;  // the root cannot go, so its content may not either
+  ustring resolved = info.path;
+  if (target != path && ResolvePath(target, LastComponent::kKeepLink, resolved) != 0) {
+    return kFailed;
   }
-  return TreeRemover(target, info.path).Run() ? 0 : kFailed;
+  if (resolved == "/") {
+    return kFailed;  // the root cannot be removed, so its content must stay as well
+  }
+  return TreeRemover(target, resolved).Run() ? 0 : kFailed;
 }
 
 int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle) {
@@ -669,8 +653,8 @@ int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle) {
 }
 
 int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
-  // readdir_r is deprecated for good reasons, and readdir is as safe here: threads interfere in one
-  // stream only, and a handle belongs to one thread.
+  // readdir_r is deprecated for good reasons, and readdir is just as safe here: threads interfere
+  // only if they share a stream, and a handle belongs to one thread.
   errno = 0;
   const dirent* next = readdir(handle.dir);
   if (next == nullptr) {
@@ -723,7 +707,7 @@ int FSMktemp(const ustring& folder, ustring& out) {
   char path[kTemplateSize];
   const int length = snprintf(path, sizeof path, "%s/XXXXXX", folder.c_str());
   const std::string pattern = path;
-  // A pattern that was cut would make a file somewhere else.
+  // A truncated pattern would create a file somewhere else.
   errno = ENAMETOOLONG;
   const bool fits = length >= 0 && static_cast<size_t>(length) < sizeof path;
   const Descriptor file(fits ? mkostemp(path, O_CLOEXEC) : -1);

@@ -2,8 +2,8 @@
 
 #include "path-resolve.h"
 
-// The File Manager is deprecated, yet nothing newer resolves a path to the stored spelling without
-// following its leaf.
+// The File Manager is deprecated, but nothing newer resolves a path to its stored spelling without
+// following a link at the end.
 #pragma clang diagnostic ignored "-Wdeprecated-declarations"
 
 int ResolvePath(const ustring& path, LastComponent last, ustring& resolved) {

@@ -1,22 +1,12 @@
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
 #include <string>
 
+#include "file/real-path.h"
 #include "path-resolve.h"
 
 namespace {
 
 constexpr size_t kBufferSize = 4096;
-
-int RealPath(const std::string& path, std::string& resolved) {
-  char buffer[PATH_MAX];
-  if (realpath(path.c_str(), buffer) == nullptr) {
-    return errno;
-  }
-  resolved = buffer;
-  return 0;
-}
 
 }  // namespace
 
@@ -34,9 +24,9 @@ int ResolvePath(const ustring& path, LastComponent last, ustring& resolved) {
     }
   }
 
-  std::string result;
-  if (const int error = RealPath(folder, result); error != 0) {
-    return error;
+  std::string result = RealPath(folder);
+  if (result.empty()) {
+    return errno;
   }
   if (!leaf.empty()) {
     result += (result == "/" ? "" : "/") + leaf;

@@ -1,6 +1,5 @@
-// The string on its two buffers. Everything that writes text comes down to one of `append(const
-// char*, n)`, `append(char, n)`, `append(const unsigned short*, n)` and `append(unsigned short,
-// n)`.
+// All text is written by one of `append(const char*, n)`, `append(char, n)`, `append(const unsigned
+// short*, n)` and `append(unsigned short, n)`.
 
 #include "ustring.h"
 
@@ -23,8 +22,8 @@ using size_type = ustring::size_type;
 
 constexpr size_type kInitialCapacity = 4;
 
-// The numbers at the end of the warnings. They name the place of the failure to whoever searches
-// for the text, and stay when the lines of this file move.
+// The line numbers in the warnings. They identify the place of the failure, and stay the same when
+// the lines of this file move.
 constexpr int kLineToUtf8 = 888;
 constexpr int kLineFromUtf8 = 921;
 constexpr int kLineGetNormalizer = 1014;
@@ -32,7 +31,7 @@ constexpr int kLineNormalize = 1026;
 
 constexpr UNormalization2Mode kNormalizerModes[] = {UNORM2_COMPOSE, UNORM2_DECOMPOSE};
 
-// The only place where our 16-bit units become the Unicode library's.
+// The only place where our 16-bit units become ICU's.
 static_assert(sizeof(UChar) == sizeof(unsigned short), "UTF-16 units differ in size");
 UChar* to_icu(unsigned short* w) {
   return reinterpret_cast<UChar*>(w);
@@ -43,14 +42,14 @@ int32_t to_icu_capacity(size_type capacity) {
   return static_cast<int32_t>(std::min(capacity, kMost));
 }
 
-// Put together first, so that it goes out in one piece.
+// Assembled first, so that it is written in one piece.
 void warn(const char* function, UErrorCode err, int line) {
   const std::string text = std::string("Warning: ") + function + ": error code " +
                            std::to_string(err) + " at line " + std::to_string(line) + "\n";
   std::cerr << text << std::flush;
 }
 
-// The length of a text of which `n` units count at most.
+// The length of a text, at most `n`.
 size_type bounded_length(const char* s, size_type n) {
   return n == ustring::npos ? std::strlen(s) : strnlen(s, n);
 }
@@ -63,7 +62,7 @@ size_type bounded_length(const unsigned short* w, size_type n) {
   return length;
 }
 
-// `length` + `added` and the terminator.
+// Room for `length` + `added` units and the terminator.
 size_type need_for(size_type length, size_type added) {
   if (added >= ustring::npos - length) {
     throw std::bad_alloc();
@@ -108,7 +107,7 @@ class ByteSet {
   std::array<bool, 256> members_{};
 };
 
-// The highest position up to `start` whose byte satisfies `matches`.
+// The last position, from `start` backward, whose byte satisfies `matches`.
 template <class Predicate>
 size_type find_backward(const char* text, size_type start, Predicate matches) {
   for (size_type i = start + 1; i-- > 0;) {
@@ -183,7 +182,7 @@ void ustring::init() {
   try {
     resize(wdata, wdata_cap, kInitialCapacity);
   } catch (...) {
-    // Nobody destroys an object whose construction failed here.
+    // The destructor does not run for an object whose construction fails here.
     std::free(data);
     throw;
   }
@@ -209,7 +208,7 @@ void ustring::update_wdata() const {
   }
 }
 
-int ustring::convert_from_data() const {
+void ustring::convert_from_data() const {
   int32_t length = 0;
   UErrorCode err = U_ZERO_ERROR;
   u_strFromUTF8(nullptr, 0, &length, data, -1, &err);
@@ -220,21 +219,20 @@ int ustring::convert_from_data() const {
   if (U_FAILURE(err)) {
     warn("u_strFromUTF8", err, kLineFromUtf8);
     clear_wdata();
-    return -1;
+    return;
   }
   wdata_len = static_cast<size_type>(length);
   wdata[wdata_len] = 0;
-  return 0;
 }
 
-int ustring::convert_from_wdata() {
+void ustring::convert_from_wdata() {
   int32_t length = 0;
   UErrorCode err = U_ZERO_ERROR;
   u_strToUTF8(nullptr, 0, &length, to_icu(wdata), -1, &err);
   try {
     realloc_data(need_for(static_cast<size_type>(length), 0));
   } catch (...) {
-    // The old text is still there, and it is the one that counts.
+    // The old text is still there, and it is the authoritative one.
     clear_wdata();
     throw;
   }
@@ -245,11 +243,10 @@ int ustring::convert_from_wdata() {
     warn("u_strToUTF8", err, kLineToUtf8);
     clear_data();
     clear_wdata();
-    return -1;
+    return;
   }
   data_len = static_cast<size_type>(length);
   data[data_len] = '\0';
-  return 0;
 }
 
 ustring& ustring::finish_wdata(size_type len) {
@@ -263,7 +260,7 @@ ustring& ustring::append(const char* s, size_type n) {
   const bool own = s == data;
   const size_type count = own ? std::min(data_len, n) : bounded_length(s, n);
   realloc_data(need_for(data_len, count));
-  // The resize may have moved our own text, and that text may hold a NUL.
+  // The resize may have moved our own text, and that text may contain a NUL.
   const char* source = own ? data : s;
   const size_type copied = own ? strnlen(source, count) : count;
   std::memcpy(data + data_len, source, copied);
@@ -274,7 +271,7 @@ ustring& ustring::append(const char* s, size_type n) {
 }
 
 ustring& ustring::append(const unsigned short* w, size_type n) {
-  // Asked first: the conversion may move the buffer.
+  // Compared first, because the conversion may move the buffer.
   const bool own = w == wdata;
   update_wdata();
   const size_type count = own ? std::min(wdata_len, n) : bounded_length(w, n);
@@ -295,8 +292,8 @@ ustring& ustring::append(char c, size_type n) {
 ustring& ustring::append(unsigned short u, size_type n) {
   update_wdata();
   realloc_wdata(need_for(wdata_len, n));
-  // A unit 0 would end the text in the middle: units behind it would be counted and yet lost in
-  // UTF-8.
+  // A unit of 0 would end the text in the middle: units after it would be counted here but missing
+  // in UTF-8.
   const size_type count = u == 0 ? 0 : n;
   std::fill_n(wdata + wdata_len, count, u);
   return finish_wdata(wdata_len + count);
@@ -373,13 +370,14 @@ ustring& ustring::clear() {
   return *this;
 }
 
-void ustring::swap(ustring& other) noexcept {
+ustring& ustring::swap(ustring& other) noexcept {
   std::swap(data, other.data);
   std::swap(data_len, other.data_len);
   std::swap(data_cap, other.data_cap);
   std::swap(wdata, other.wdata);
   std::swap(wdata_len, other.wdata_len);
   std::swap(wdata_cap, other.wdata_cap);
+  return *this;
 }
 
 void ustring::ltrim(const char* set) {
@@ -393,7 +391,7 @@ void ustring::ltrim(const char* set) {
 }
 
 void ustring::rtrim(const char* set) {
-  // The position of the last byte that stays; `npos` + 1 is 0.
+  // One more than the position of the last byte that stays; `npos` + 1 is 0.
   const size_type kept = find_last_not_of(set) + 1;
   if (kept == data_len) {
     return;
@@ -486,8 +484,8 @@ int ustring::compare(const ustring& other, size_type n) const {
   if (std::strncmp(data, other.data, std::min(n, common + 1)) == 0) {
     return 0;
   }
-  // Only the sign of that result is defined. As the texts differ before either ends, the difference
-  // can be looked for without regard to the NUL: in blocks first, then bytes.
+  // Only the sign of that result is defined. The texts differ before either of them ends, so the
+  // difference can be searched for without checking for the NUL: by blocks first, then by bytes.
   constexpr size_type kBlock = 256;
   size_type i = 0;
   while (i + kBlock <= common && std::memcmp(data + i, other.data + i, kBlock) == 0) {
@@ -530,7 +528,7 @@ ustring ustring::normalize(const ustring& s, normalization_form f) {
   result.realloc_wdata(need_for(static_cast<size_type>(length), 0));
 
   err = U_ZERO_ERROR;
-  // Ill-formed text has no UTF-16 form: it is tried, and warned of, before either call.
+  // For ill-formed text the conversion fails, with a warning, before each of the two calls.
   s.update_wdata();
   const int32_t written = unorm2_normalize(normalizer, to_icu(s.wdata), -1, to_icu(result.wdata),
                                            to_icu_capacity(result.wdata_cap), &err);

@@ -73,6 +73,8 @@ def make_client(app, build, files):
     With `files` there are that many more, some of them links and some executable, in folders of fifty.
     """
     contents = {
+        "../Info.plist": "<plist><dict><key>CFBundleExecutable</key>"
+        "<string>lumivo-drive-ui</string></dict></plist>",
         "help/tool.sh": "#!/bin/sh\n",
         "Größe 図/é.txt": "accents\n",
         f"only in {build}.txt": f"build {build}\n",

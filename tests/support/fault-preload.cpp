@@ -1,25 +1,24 @@
-// Makes chosen calls into the C library fail, so that a test sees what a program makes of it. For
-// LD_PRELOAD on Linux.
+// Makes chosen calls into the C library fail, so that a test sees how a program copes. Linux only,
+// for LD_PRELOAD.
 //
-//   FAULT_FUNCTION    the calls to count: names with a comma between them ("rename,unlinkat"),
-//   "changes" for every call
-//                     that changes the file system, or "all". An open under any of its names is
-//                     "open", or "open-w" when it may write or create; closing what was open for
-//                     writing is "close-w"
-//   FAULT_PATH        count only calls with this text in their path; a descriptor's path is what it
-//   was opened as FAULT_NTH         which of them meets the fault, from 1; without it nothing fails
+//   FAULT_FUNCTION    which calls to count: names separated by commas ("rename,unlinkat"),
+//                     "changes" for every call that changes the file system, or "all". An open
+//                     under any of its names is "open", or "open-w" when it may write or create;
+//                     closing what was open for writing is "close-w"
+//   FAULT_PATH        count only calls with this text in their path; the path of a descriptor is
+//                     the one that it was opened by
+//   FAULT_NTH         which of them meets the fault, from 1; without it nothing fails
 //   FAULT_MODE        once    that call fails (the default)
 //                     always  it and all that follow fail
 //                     short   a read or write does 2 bytes of what it was asked to
 //                     kill    the process is killed instead of the call; of a read or write, half
-//                     is done first
+//                             is done first
 //   FAULT_ERRNO       a number; default EIO
-//   FAULT_COUNT_FILE  a line for every counted call: its name and path. What a killed process did
-//   stays there
+//   FAULT_COUNT_FILE  gets a line for every counted call: its name and path. It survives a kill
 //
-// The count is of one process, over all its threads. What it starts is not affected: the variables
-// are taken from the environment, LD_PRELOAD too. Calls that the C library makes within itself
-// (stdio's, say) do not come by here.
+// Calls are counted per process, over all its threads. Programs that it starts are not affected:
+// the variables, LD_PRELOAD among them, are taken out of the environment. Calls that the C library
+// makes internally (stdio's, say) are not seen.
 
 #include <dirent.h>
 #include <dlfcn.h>
@@ -73,15 +72,18 @@ bool IsWriting(int flags) {
 
 enum class Fate { kGoesOn, kGoesOnAndIsLast, kFails };
 
-// Counts the call if it is looked for, and says what becomes of it. The `size` of a read or write
-// may be cut short.
+bool IsCounted(const std::string& name, const std::string& path, bool changes) {
+  if (g_plan == nullptr || path.find(g_plan->path) == std::string::npos) return false;
+  const std::string& functions = g_plan->functions;
+  if (functions == ",all," || (changes && functions == ",changes,")) return true;
+  return functions.find("," + name + ",") != std::string::npos;
+}
+
+// Counts the call if it is looked for, and decides its fate. The `size` of a read or write may be
+// cut short.
 Fate Decide(const std::string& name, const std::string& path, bool changes,
             size_t* size = nullptr) {
-  if (g_plan == nullptr || path.find(g_plan->path) == std::string::npos) return Fate::kGoesOn;
-  const bool isInGroup =
-      g_plan->functions == ",all," || (changes && g_plan->functions == ",changes,");
-  if (!isInGroup && g_plan->functions.find("," + name + ",") == std::string::npos)
-    return Fate::kGoesOn;
+  if (!IsCounted(name, path, changes)) return Fate::kGoesOn;
   const long count = ++g_plan->count;
   const int before = errno;
   if (FILE* list = fopen(g_plan->list.c_str(), "ae")) {
@@ -90,11 +92,11 @@ Fate Decide(const std::string& name, const std::string& path, bool changes,
   }
   errno = before;
   const std::string& mode = g_plan->mode;
-  if (g_plan->nth < 1 || count < g_plan->nth || (count > g_plan->nth && mode != "always"))
-    return Fate::kGoesOn;
+  if (g_plan->nth < 1 || count < g_plan->nth) return Fate::kGoesOn;
+  if (count > g_plan->nth && mode != "always") return Fate::kGoesOn;
   if (mode == "short") {
-    if (size != nullptr)
-      *size = *size > 2 ? 2 : (*size + 1) / 2;  // so little that the rest takes more than one call
+    // So little that the rest takes more than one call.
+    if (size != nullptr) *size = *size > 2 ? 2 : (*size + 1) / 2;
     return Fate::kGoesOn;
   }
   if (mode == "kill") {
@@ -115,6 +117,7 @@ Function Next(const char* name) {
 
 // Under names of their own, so that the system's declarations with their attributes do not get in
 // the way.
+// NOLINTBEGIN(bugprone-macro-parentheses): parameter lists
 #define FAULT(type, failure, symbol, name, takes, passes, path, changes, size) \
   extern "C" type symbol##_fault takes __asm__(#symbol);                       \
   type symbol##_fault takes {                                                  \
@@ -124,6 +127,7 @@ Function Next(const char* name) {
     if (fate == Fate::kGoesOnAndIsLast) raise(SIGKILL);                        \
     return result;                                                             \
   }
+// NOLINTEND(bugprone-macro-parentheses)
 #define TRANSFER(symbol, takes, passes, changes) \
   FAULT(ssize_t, -1, symbol, #symbol, takes, passes, PathOf(fd), changes, &size)
 #define CHANGE(symbol, takes, passes, path) \
@@ -157,6 +161,7 @@ CHANGE(linkat, (int from, Text path, int to, Text name, int flags), (from, path,
 CHANGE(chmod, (Text path, mode_t mode), (path, mode), path)
 CHANGE(lchmod, (Text path, mode_t mode), (path, mode), path)
 CHANGE(fsync, (int fd), (fd), PathOf(fd))
+CHANGE(syncfs, (int fd), (fd), PathOf(fd))
 CHANGE(ftruncate, (int fd, off_t size), (fd, size), PathOf(fd))
 
 LOOK(access, (Text path, int mode), (path, mode), path)
@@ -180,7 +185,7 @@ int close_fault(int fd) {
   const bool writing = flags >= 0 && IsWriting(flags);
   if (Decide(writing ? "close-w" : "close", PathOf(fd), writing) != Fate::kFails) return next(fd);
   const int error = errno;
-  next(fd);  // a close that fails has closed all the same
+  next(fd);  // a close that fails closes all the same
   errno = error;
   return -1;
 }

@@ -1,15 +1,18 @@
 #include "file/file-op.h"
 
 #include <gtest/gtest.h>
+#include <sched.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include "log.h"
 #include "support/temp-dir.h"
@@ -19,190 +22,449 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Each test runs in its own folder, "~" in the rows. What becomes of failing calls is another
-// program's matter.
-struct FileOp : ::testing::Test {
+// Each test runs in a folder of its own. Failing system calls are covered by the sweep.
+struct FileOp : testing::Test {
   FileOp() {
     WriteFile(logs_ / "levels", "file_op_debug=7\n");
-    EXPECT_EQ(0, Logger::Initialize(Logger::TYPE_FILE, logs_ / "log", logs_ / "levels", 50));
+    EXPECT_EQ(Logger::Initialize(Logger::TYPE_FILE, logs_ / "log", logs_ / "levels", 50), 0);
     log_.open(logs_ / "log");
     fs::current_path(dir_.path);
   }
-  ~FileOp() override { Logger::Destroy(); }
+  ~FileOp() override {
+    Logger::Destroy();
+    umask(umask_);
+  }
 
-  // Calls `function` with both texts of each row, "a b= result LEVEL: line LEVEL: line > b": what
-  // it returns and logs, less where `GetFileInfo` tells a path, and at the end what became of b.
-  // "-" is an empty text.
-  template <typename Function>
-  void Check(Function function, std::string rows) {
-    for (size_t at; (at = rows.find('~')) != rows.npos;) rows.replace(at, 1, dir_.path);
-    std::istringstream stream(rows);
-    for (std::string row; std::getline(stream >> std::ws, row, ';');) {
-      std::string first, second, line;
-      std::istringstream(row.substr(0, row.find("= "))) >> first >> second;
-      ustring a(first == "-" ? "" : first), b(second);
-      std::string result = std::to_string(function(a, b));
-      for (log_.clear(); std::getline(log_, line);) {
-        if (line.find("path = [") != line.npos) continue;
-        result +=
-            " " + line.substr(17, line.find("] file-op(") - 17) + line.substr(line.find("): ") + 1);
-      }
-      EXPECT_EQ(row.substr(row.find("= ") + 2), result + (b == second ? "" : " > " + b).c_str())
-          << row;
+  // The lines logged since the last call, "[LEVEL] text". The two lines in which GetFileInfo traces
+  // every path are left out.
+  std::string NewLines() {
+    std::string lines;
+    log_.clear();
+    for (std::string line; std::getline(log_, line);) {
+      if (line.find(" path = [") != std::string::npos) continue;
+      const size_t level = line.find('[');
+      const size_t unit = line.find(" file-op(");
+      lines += line.substr(level, unit - level) + line.substr(line.find("):") + 2) + "\n";
+    }
+    return lines;
+  }
+
+  // An operation on one or two paths: what it returns and logs.
+  struct Row {
+    std::string path;
+    std::string other;
+    int result;
+    std::string logged = "";
+  };
+
+  template <typename Operation>
+  void Check(Operation operation, const std::vector<Row>& rows) {
+    for (const Row& row : rows) {
+      SCOPED_TRACE(row.path + ", " + row.other);
+      EXPECT_EQ(operation(row.path, row.other), row.result);
+      EXPECT_EQ(NewLines(), row.logged);
     }
   }
 
-  const TempDir logs_, dir_;
+  const TempDir logs_;
+  const TempDir dir_;
+  const mode_t umask_ = umask(027);
   std::ifstream log_;
-  _FILE_INFO_tag info_;
 };
 
-TEST_F(FileOp, InfoAndEntriesTellTypeSizeTimeAndSpelling) {
-  BuildTree(
-      ".", "real real/f=four real/s real/l>f way>real gone>nowhere \u00e9=e e\u0301d e\u0301d/f=x");
-  ASSERT_TRUE(mkfifo("fifo", 0600) == 0 && chmod("real/f", 0640) == 0);
-  ASSERT_TRUE(FSUTime("real/f", 1, 2000000000) == 0 && FSUTime("real/l", 3, 4) == 0)
-      << "a link has its own times";
-  const auto info = [this](auto& a, auto& b) {
-    return GetFileInfo(a, info_) != 0 ? -1 : (b = info_.path, info_.type);
-  };
-  Check(info,
-        "real/f= 1 > ~/real/f;way/= 2 > ~/real;way= 3 > ~/way;gone= 3 > ~/gone;fifo= 6 > "
-        "~/fifo;/dev= 2 > /dev;"
-        "/dev/null= 5 > /dev/null;/= 2 > /;.= 2 > ~;real/..= 2 > ~;e\u0301d/f= 1 > "
-        "~/\u00e9d/f;way/f= 1 > ~/real/f");
-  EXPECT_TRUE(info_.size == 4 && info_.mtime == 2000000000 && info_.mode == 0100640 &&
-              info_.name == "f");
-  Check([](auto& a, auto& b) { return IsFileExist(a, b == "exact"); },
-        "~/e\u0301= 1;~/e\u0301 exact= 1;~/way exact= 1;~/way/f= 1;~/way/f exact= 0;-= 0;none= "
-        "0;real/f/x= 0");
-  _FILE_INFO_tag other = info_;
-  EXPECT_TRUE(GetFileInfo("real/f/x", other) == -1 && FSStat("", other, false) == -1 &&
-              other == info_);
-  EXPECT_TRUE(FSStat("none", other, false) == 0 && !other.exist && other.size == 4)
-      << "only `exist` is set";
-  EXPECT_TRUE(GetFileInfo("none", other) == 0 && other.size == 0 && other.path == "none" &&
-              other != info_);
+unsigned ModeOf(const std::string& path) {
+  return static_cast<unsigned>(fs::status(path).permissions());
+}
 
-  const auto read = [](ustring& path, ustring& found) {
-    DIR_HANDLE handle;
-    DIR_ENTRY entry;
-    EXPECT_EQ(0, FSOpenDir(FSParentPath(path), found == "info", handle));
-    while (FSReadDir(handle, entry) == 1 && entry.name != FSBaseName(path)) continue;
-    FSCloseDir(handle);
-    return found = std::to_string(entry.size) + "@" + std::to_string(entry.mtime), entry.type;
+// The entry of `path` in its folder.
+DIR_ENTRY EntryOf(const ustring& path, int flags) {
+  DIR_HANDLE handle;
+  DIR_ENTRY entry;
+  EXPECT_EQ(FSOpenDir(FSParentPath(path), flags, handle), 0);
+  while (FSReadDir(handle, entry) == 1 && entry.name != FSBaseName(path)) continue;
+  EXPECT_EQ(entry.name, FSBaseName(path));
+  FSCloseDir(handle);
+  EXPECT_EQ(handle.path, "");
+  EXPECT_EQ(handle.dir, nullptr);
+  return entry;
+}
+
+TEST_F(FileOp, InfoAndEntriesTellTypeSizeTimeAndSpelling) {
+  MakeTree(".", {{"real/f", "file: four"},
+                 {"way", "link: real"},
+                 {"e\u0301/f", "file: "},
+                 {"\u00e9/f", "file: "}});
+  ASSERT_EQ(mkfifo("fifo", 0600), 0);
+  ASSERT_EQ(mknod("socket", S_IFSOCK | 0600, 0), 0);
+  ASSERT_EQ(chmod("real/f", 0640), 0);
+  ASSERT_EQ(FSUTime("real/f", 1, 2000000000), 0);
+  ASSERT_EQ(FSUTime("way", 3, 4), 0) << "a link has its own times";
+  struct Info {
+    const char* path;
+    int type;
+    std::string spelling;
   };
-  Check(
-      read,
-      R"(~/real/f info= 1 > 4@2000000000;~/real/f= 1 > 0@0;~/real/l info= 3 > 1@4;~/real/s= 2 > 0@0;
-        ~/real/..= 2 > 0@0;~/way/f info= 1 > 0@0)");  // the last one is not spelled as the file
-                                                      // system does
+  const Info rows[] = {
+      {"way", FILE_TYPE_LINK, dir_ / "way"},
+      {"way/", FILE_TYPE_FOLDER, dir_ / "real"},
+      {"fifo", FILE_TYPE_FIFO, dir_ / "fifo"},
+      {"socket", FILE_TYPE_SOCKET, dir_ / "socket"},
+      {"/dev/null", FILE_TYPE_DEVICE, "/dev/null"},
+      {".", FILE_TYPE_FOLDER, dir_.path},
+      {"real/..", FILE_TYPE_FOLDER, dir_.path},
+      {"e\u0301/f", FILE_TYPE_REGULAR, dir_ / "\u00e9/f"},
+      {"way/f", FILE_TYPE_REGULAR, dir_ / "real/f"},
+  };
+  _FILE_INFO_tag info;
+  for (const Info& row : rows) {
+    SCOPED_TRACE(row.path);
+    EXPECT_EQ(GetFileInfo(row.path, info), 0);
+    EXPECT_TRUE(info.exist);
+    EXPECT_EQ(info.type, row.type);
+    EXPECT_EQ(info.path, row.spelling);
+    EXPECT_EQ(info.name, FSBaseName(row.spelling));
+    const DIR_ENTRY entry = EntryOf(row.spelling, 1);
+    EXPECT_EQ(entry.type, row.type);
+    EXPECT_EQ(entry.size, info.size);
+    EXPECT_EQ(entry.mtime, info.mtime);
+  }
+  EXPECT_EQ(info.size, 4);
+  EXPECT_EQ(info.mtime, 2000000000);
+  EXPECT_EQ(info.mode, 0100640U);
+  EXPECT_EQ(EntryOf("way/f", 1).size, 0) << "not the file system's own spelling";
+  EXPECT_EQ(EntryOf(dir_ / "real/f", 0).size, 0);
+  EXPECT_EQ(EntryOf(dir_ / "real/f", 0).mtime, 0);
+  EXPECT_EQ(GetFileInfo("/", info), 0);
+  EXPECT_EQ(info.path, "/");
+}
+
+TEST_F(FileOp, InfoKeepsANameThatIsNotWellFormed) {
+  WriteFile("\xff", "");
+  _FILE_INFO_tag info;
+  EXPECT_EQ(GetFileInfo("\xff", info), 0);
+  EXPECT_EQ(info.path, dir_ / "\xff");
+  EXPECT_EQ(info.name, "\xff");
+}
+
+TEST_F(FileOp, InfoOfNothingSaysSoOrStaysAsItWas) {
+  WriteFile("f", "four");
+  _FILE_INFO_tag info;
+  ASSERT_EQ(GetFileInfo("f", info), 0);
+  const _FILE_INFO_tag before = info;
+  EXPECT_EQ(GetFileInfo("f/x", info), -1);
+  EXPECT_EQ(FSStat("", info, false), -1);
+  EXPECT_TRUE(info == before);
+  EXPECT_EQ(FSStat("none", info, false), 0);
+  EXPECT_FALSE(info.exist);
+  EXPECT_EQ(info.size, 4) << "only `exist` is set";
+  EXPECT_EQ(GetFileInfo("none", info), 0);
+  EXPECT_EQ(info.path, "none");
+  EXPECT_EQ(info.size, 0);
+}
+
+TEST_F(FileOp, ExistenceIsOfTheComposedPathAndOnRequestOfThatSpellingOnly) {
+  MakeTree(".", {{"real/f", "file: "}, {"way", "link: real"}, {"\u00e9", "folder"}});
+  EXPECT_TRUE(IsFileExist("e\u0301", false));
+  EXPECT_TRUE(IsFileExist("way/f", false));
+  EXPECT_FALSE(IsFileExist("", false));
+  EXPECT_FALSE(IsFileExist("real/f/x", false));
+  EXPECT_TRUE(IsFileExist(dir_ / "e\u0301", true));
+  EXPECT_TRUE(IsFileExist(dir_ / "way", true));
+  EXPECT_FALSE(IsFileExist(dir_ / "way/f", true));
+}
+
+TEST_F(FileOp, MissingFoldersAreMadeAlongThePath) {
+  MakeTree(".", {{"d", "folder"}, {"f", "file: x"}, {"way", "link: d"}, {"to-file", "link: f"}});
+  constexpr unsigned short kByUmask = 0xFFFF;
+  const std::string onTheWay = "[INFO] FSMKDirP: path: f is symbolic link pointed to folder\n";
+  const std::string atTheEnd =
+      "[INFO] FSMKDirP: path: f is existing file or symbolic link pointed to file\n";
+  struct Walk {
+    ustring path;
+    bool replace;
+    unsigned short mode;
+    int result;
+    std::string rest;  // of the path, from the place where the walk stopped
+    std::string logged;
+  };
+  const Walk rows[] = {
+      {"a//m/", false, 0777, 0, "/", ""},
+      {"way/n", false, 0700, 0, "", ""},
+      {"way/n", true, 0777, 0, "", ""},
+      {"to-file/r", true, 0755, 0, "", ""},
+      {"f/p/q", false, 0777, -1, "/q", onTheWay},
+      {"f", false, 0777, -1, "", atTheEnd},
+      {dir_ / "a/b/c", false, kByUmask, 0, "", ""},
+  };
+  for (const Walk& row : rows) {
+    SCOPED_TRACE(row.path);
+    char* stop = nullptr;
+    EXPECT_EQ(FSMKDirP(row.path, &stop, row.replace, row.mode), row.result);
+    EXPECT_EQ(stop, row.path.c_str() + row.path.length() - row.rest.length());
+    EXPECT_EQ(NewLines(), row.logged);
+  }
+  EXPECT_EQ(ModeOf("a/m"), 0777U);
+  EXPECT_EQ(ModeOf("d/n"), 0700U);
+  EXPECT_EQ(ModeOf("to-file/r"), 0755U);
+  EXPECT_EQ(ModeOf("a/b"), 0750U);
+  EXPECT_EQ(umask(027), mode_t{027});
+  errno = 0;
+  EXPECT_EQ(FSMKDirP("f", nullptr, false, 0777), -1);
+  EXPECT_EQ(errno, EEXIST);
+  EXPECT_EQ(FSMKDirP("", nullptr, false, 0777), -1);
+}
+
+TEST_F(FileOp, FoldersMadeAtTheSameTimeLeaveTheUmaskAsItWas) {
+  const auto makeFolder = [] {
+    for (int round = 0; round < 20000; ++round) FSMKDirP("d", nullptr, false, 0777);
+  };
+  std::thread other(makeFolder);
+  makeFolder();
+  other.join();
+  EXPECT_EQ(umask(027), mode_t{027});
 }
 
 TEST_F(FileOp, FoldersAreMadeOrWhatIsInTheWayIsReported) {
-  BuildTree(".", "d f=x way>d tofile>f");
-  umask(027);
-  const auto along = [](ustring& a, ustring& b) {
-    char* stop = nullptr;
-    const int result =
-        FSMKDirP(a, &stop, b[0] == '+', static_cast<uint16_t>(std::stoul(b.c_str(), nullptr, 8)));
-    return b = std::to_string(a.c_str() + a.length() - stop), result;
-  };
-  Check(along, R"(a//m/ 777= 0 > 1;way/n 700= 0 > 0;way/n +777= 0 > 0;tofile/r +755= 0 > 0;
-        f/p/q 777= -1 INFO: FSMKDirP: path: f is symbolic link pointed to folder > 2;~/a/b/c 177777= 0 > 0;
-        f 777= -1 INFO: FSMKDirP: path: f is existing file or symbolic link pointed to file > 0)");
-  const auto mode = [](const char* path) {
-    return static_cast<unsigned>(fs::status(path).permissions());
-  };
-  EXPECT_TRUE(mode("a/b") == 0750 && mode("a/m") == 0777 && mode("d/n") == 0700 &&
-              mode("tofile/r") == 0755);
-  Check([](auto& a, auto& b) { return FSMKDir(a, b == "parents"); },
-        R"(-= -1;d= 0;d/x/y= -2;d/1/2 parents= 0;
-        f/x= -1 ERROR: FSMKDir: Failed to to file info 'f/x';
-        way= -1 ERROR: FSMKDir: Create a folder but local file system is not directory 'way' (3))");
-  Check(FSMKDirFromRoot,
-        R"(d d//m= 0 DEBUG: FSMKDirFromRoot: create / DEBUG: FSMKDirFromRoot: create //m;
-        no no/x/y= -1 DEBUG: FSMKDirFromRoot: create /x;a ab= -1 ERROR: root 'a' is not a parent folder of target 'ab';
-        ab a= -1 ERROR: Giving a root 'ab' whose length is larger then target's 'a'.)");
-  EXPECT_EQ("a/ a/b/ a/b/c/ a/m/ d/ d/1/ d/1/2/ d/m/ d/n/ f=x tofile/ tofile/r/ way>d",
-            ListTree("."));
-  EXPECT_EQ(EEXIST, FSMKDirP("f", nullptr, false, 0777) == -1 ? errno : 0);
+  MakeTree(".", {{"d", "folder"}, {"f", "file: x"}, {"way", "link: d"}});
+  Check([](const ustring& path, const ustring&) { return FSMKDir(path, false); },
+        {{"", "", -1},
+         {"d", "", 0},
+         {"d/x/y", "", -2},
+         {"f/x", "", -1, "[ERROR] FSMKDir: Failed to to file info 'f/x'\n"},
+         {"way", "", -1,
+          "[ERROR] FSMKDir: Create a folder but local file system is not directory 'way' (3)\n"}});
+  EXPECT_EQ(FSMKDir("d/1/2", true), 0);
+  Check(
+      FSMKDirFromRoot,
+      {{"d", "d/m/n", 0,
+        "[DEBUG] FSMKDirFromRoot: create /m\n[DEBUG] FSMKDirFromRoot: create /m/n\n"},
+       {"no", "no/x/y", -1, "[DEBUG] FSMKDirFromRoot: create /x\n"},
+       {"a", "ab", -1, "[ERROR] root 'a' is not a parent folder of target 'ab'\n"},
+       {"ab", "a", -1, "[ERROR] Giving a root 'ab' whose length is larger then target's 'a'.\n"}});
+  EXPECT_TRUE(fs::is_directory("d/1/2"));
+  EXPECT_TRUE(fs::is_directory("d/m/n"));
 }
 
-TEST_F(FileOp, CopyAndRenameMoveWithinAndAcrossFileSystems) {
-  BuildTree(".", "f=abc to=longer-than-some d d/f=x same>f way>d old=o");
-  const auto copy = [](auto& a, auto& b) { return FSCopy(a, b, b[0] == '/'); };
-  Check(copy, R"(f to= 0;no to= -1 ERROR: CopyFile: open(no): No such file or directory (2);
-        f d= -1 ERROR: CopyFile: open(d): Is a directory (21);d new= -1 ERROR: CopyFile: read: Is a directory (21);
-        f same= -1 ERROR: CopyFile: open(same): Invalid argument (22);f /dev/null= 0)");
-  const auto move = [](auto& a, auto& b) {
-    return FSRename(a, b, a.c_str()[0] == '/');
-  };  // absolute ones exactly
-  Check(move, "- x= -1;d= -1;~/way/f x= -2;d d/in= -3;way/f old= 0;way m= 0;d " +
-                  std::string(5000, 'x') + "= -100");
-  EXPECT_EQ("d/ m>d new= old=x same>f to=abc", ListTree("."));
+TEST_F(FileOp, CopyOverwritesWhatIsThereButNotItsOwnSource) {
+  const Tree before = {{"d", "folder"}, {"f", "file: abc"}, {"same", "link: f"}};
+  MakeTree(".", before);
+  WriteFile("to", "longer than some");
+  Check([](const ustring& from, const ustring& to) { return FSCopy(from, to, false); },
+        {{"f", "to", 0},
+         {"f", "/dev/null", 0},
+         {"no", "x", -1, "[ERROR] CopyFile: open(no): No such file or directory (2)\n"},
+         {"f", "d", -1, "[ERROR] CopyFile: open(d): Is a directory (21)\n"},
+         {"d", "new", -1, "[ERROR] CopyFile: read: Is a directory (21)\n"},
+         {"f", "same", -1, "[ERROR] CopyFile: open(same): Invalid argument (22)\n"}});
+  Tree after = before;
+  after["to"] = "file: abc";
+  after["new"] = "file: ";
+  EXPECT_EQ(TreeOf("."), after);
+}
 
+TEST_F(FileOp, RenameMovesWithinAFileSystem) {
+  MakeTree(".", {{"d/f", "file: x"}, {"old", "file: o"}, {"way", "link: d"}});
+  EXPECT_EQ(FSRename(dir_ / "way/f", "x", true), -2) << "spelled in another way";
+  Check([](const ustring& from, const ustring& to) { return FSRename(from, to, false); },
+        {{"", "x", -1},
+         {"d", "", -1},
+         {"no", "x", -2},
+         {"d", "d/in", -3},
+         {"d", std::string(5000, 'x'), -100},
+         {"way/f", "old", 0},
+         {"way", "moved", 0}});
+  EXPECT_EQ(TreeOf("."), (Tree{{"d", "folder"}, {"old", "file: x"}, {"moved", "link: d"}}));
+}
+
+TEST_F(FileOp, RenameAcrossFileSystemsMovesAllButLinks) {
   const TempDir there(fs::exists("/dev/shm") ? "/dev/shm" : dir_.path);
-  if (rename("old", (there / "old").c_str()) == 0) GTEST_SKIP() << "only one file system here";
-  const std::string back = "back>" + dir_ / "a", over = "over>" + there.path;
-  BuildTree(".", "t t/a=1 t/e t/s t/s/b=2 t/s/c= l l/f=x l/link>f " + over + " over/" + back);
-  Check(move, R"(~/t over/t= 0;over/t/a a= 0;m over/way= 0;l over/l= -3;
-        over/t/e a= -3 ERROR: FSMKDir: Create a folder but local file system is not directory 'a' (1);
-        a over/back= -3 ERROR: CopyFile: open(over/back): Invalid argument (22))");
-  EXPECT_EQ(back + " l/ l/f=x t/ t/e/ t/s/ t/s/b=2 t/s/c=", ListTree(there.path));
-  EXPECT_EQ("a=1 d/ l/ l/link>f m>d new= old=x " + over + " same>f to=abc", ListTree("."));
+  WriteFile("probe", "");
+  if (rename("probe", (there / "probe").c_str()) == 0) GTEST_SKIP() << "only one file system here";
+  fs::remove("probe");
+  const Tree links = {{"l", "folder"}, {"l/link", "link: f"}, {"m", "link: l"}};
+  MakeTree(".", links);
+  MakeTree(".", {{"t/a", "file: 1"}, {"t/empty", "folder"}, {"t/sub/b", "file: 2"}});
+  MakeTree(there.path, {{"back", "link: " + dir_ / "a"}});
+  Check([](const ustring& from, const ustring& to) { return FSRename(from, to, false); },
+        {{"t", there / "t", 0},
+         {there / "t/a", "a", 0},
+         {"m", there / "m", 0},   // stays, with success
+         {"l", there / "l", -3},  // its link stays, and so does the folder
+         {there / "t/empty", "a", -3,
+          "[ERROR] FSMKDir: Create a folder but local file system is not directory 'a' (1)\n"},
+         {"a", there / "back", -3,
+          "[ERROR] CopyFile: open(" + there / "back" + "): Invalid argument (22)\n"}});
+  Tree here = links;
+  here["a"] = "file: 1";
+  EXPECT_EQ(TreeOf("."), here);
+  EXPECT_EQ(TreeOf(there.path), (Tree{{"back", "link: " + dir_ / "a"},
+                                      {"l", "folder"},
+                                      {"t", "folder"},
+                                      {"t/empty", "folder"},
+                                      {"t/sub", "folder"},
+                                      {"t/sub/b", "file: 2"}}));
 }
 
-TEST_F(FileOp, RemoveTakesTheTreeFollowsNoLinkAndStopsAtWhatItCannotOpen) {
-  BuildTree(".",
-            "out out/keep=k way>out way2>out f=x t t/gone>no t/s t/s/up>../../out t/e\u0301 "
-            "t/e\u0301/\xff=x");
-  std::string deep = "t";
-  for (int depth = 0; depth < 25; ++depth)
-    BuildTree(".", (deep += "/n") + "/a/sub " + deep + "/z/sub");
-  const auto lowest = static_cast<rlim_t>(dup(0));  // the first descriptor that is free
-  close(static_cast<int>(lowest));
-  const auto remove = [lowest](ustring& path, ustring& descriptors) {
-    const rlimit few = {lowest + std::stoul(descriptors.c_str()), 1024};
-    return setrlimit(RLIMIT_NOFILE, &few) != 0 ? -9 : FSRemove(path, false);
-  };
-  Check(remove, R"(t/ 20= 0;way 0= 0;way2/ 0= 0;f 0= 0;no 0= 0;- 0= -1;out/keep/x 0= -1;
-        out 0= 0 ERROR: FSOpenDir: Failed to open directory 'out'. Too many open files;no 500= 0)");
-  EXPECT_EQ("out/ out/keep=k", ListTree("."));
+TEST_F(FileOp, RemoveTakesWholeTreesAndFollowsNoLink) {
+  const Tree outside = {{"out", "folder"}, {"out/keep", "file: k"}};
+  MakeTree(".", outside);
+  MakeTree(".", {{"way", "link: out"},
+                 {"way2", "link: out"},
+                 {"f", "file: x"},
+                 {"t/dangling", "link: no"},
+                 {"t/sub/up", "link: ../../out"},
+                 {"t/e\u0301/\xff", "file: x"}});
+  for (const char* path : {"t/", "way", "way2/", "f", "no"}) {
+    EXPECT_EQ(FSRemove(path, false), 0) << path;
+  }
+  EXPECT_EQ(FSRemove("", false), -1);
+  EXPECT_EQ(FSRemove("out/keep/x", false), -1);
+  EXPECT_EQ(TreeOf("."), outside);
   const std::string log = ReadFile(logs_ / "log");
-  for (const std::string name : {"t/s", "t/s/up", "t/gone", "t/\u00e9"}) {
-    EXPECT_NE(log.npos, log.find("): Input file path = [" + name + "].\n")) << log;
-    EXPECT_NE(log.npos, log.find("): FSRefMakePath outTargetPath path = [" + dir_ / name + "].\n"))
+  for (const std::string name : {"t/sub", "t/sub/up", "t/dangling", "t/\u00e9"}) {
+    EXPECT_NE(log.find("): Input file path = [" + name + "].\n"), log.npos) << log;
+    EXPECT_NE(log.find("): FSRefMakePath outTargetPath path = [" + dir_ / name + "].\n"), log.npos)
         << log;
   }
 }
 
-TEST_F(FileOp, SmallHelpersActOnThePathItselfOrSayWhyNot) {
-  const std::string text(1023, 'l');
-  BuildTree(".", "d d/f=x way>d way2>d/f long>" + text + " more>l" + text);
-  Check([](auto& a, auto& b) { return b = FSParentPath(a) + "," + FSBaseName(a), 0; },
-        "/a/b= 0 > /a,b;/a/b/= 0 > /a/b,;a= 0 > /,a;/a= 0 > /,a;/= 0 > /,");
-  Check(FSIsParentFolder, "/a /a= 1;/a /a/b= 1;/a /ab= 0;/a/b /a= 0");
-  Check([](auto& a, auto& b) { return b = a, FSGetRealPath(b); },
-        R"(no/x= -1 DEBUG:  org path [no/x] > no/x;
-        way/../way2= 0 DEBUG:  org path [way/../way2] DEBUG:  get full path [~/d/f] > ~/d/f)");
-  Check(FSCreateSymbolicLink, R"(nowhere made= 0;
-        t d= -1 ERROR: FSCreateSymbolicLink: Failed to create symbolic link 't' -> 'd' (code: 17, msg: File exists))");
-  Check([](auto& a, auto&) { return FSChown(a, geteuid(), getegid()); }, R"(made= 0;
-        no= -1 ERROR: FSChown: Failed to chown 'no' (code: 2, msg: No such file or directory))");
-  Check(FSReadSymbolicLink, "long= 0 > " + text + R"(;
-        more= -1 ERROR: FSReadSymbolicLink: Failed to read symbolic link 'more' (code: 36, msg: File name too long))");
-  Check([](auto& a, auto&) { return isFileLocked(a, X_OK) - hasFilePermission(a, X_OK); },
-        "d/f= 1;no= -1");
-  Check([](auto& a, auto& b) { return b == "fat" ? IsMSDOS(a) : isMountPoint(a); },
-        R"(/dev= 0;/dev fat= 0;
-        no= 0 ERROR: isMountPoint: Failed to get file system info 'no'. No such file or directory;
-        no fat= 0 ERROR: IsSupportLargeFile: Failed to get file system info 'no'. No such file or directory)");
-  Check(FSMktemp, "no= -1 ERROR: mkstemp(no/XXXXXX): No such file or directory");
-  EXPECT_TRUE(FSMktemp("d", info_.path) == 0 && GetFileInfo(info_.path, info_) == 0 &&
-              info_.mode == 0100644);
-  EXPECT_EQ(-1, FSMktemp("d" + std::string(4088, '/') + "XXXXXX/too-long", info_.path))
-      << "nothing in another folder";
+TEST_F(FileOp, RemoveTakesTreesThatAreDeeperThanDescriptorsAllow) {
+  const Tree kept = {{"out", "folder"}, {"out/f", "file: x"}};
+  MakeTree(".", kept);
+  std::string deep = "t";
+  for (int depth = 0; depth < 25; ++depth) {
+    deep += "/n";
+    MakeTree(".", {{deep + "/a/sub", "folder"}, {deep + "/z/sub", "folder"}});
+  }
+  const int lowest = dup(0);
+  close(lowest);
+  rlimit before;
+  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+  rlimit few = before;
+  few.rlim_cur = static_cast<rlim_t>(lowest) + 20;
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &few), 0);
+  EXPECT_EQ(FSRemove("t", false), 0);
+
+  few.rlim_cur = static_cast<rlim_t>(lowest);
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &few), 0);
+  EXPECT_EQ(FSRemove("out", false), 0) << "a folder that cannot be opened stays";
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
+  EXPECT_EQ(NewLines(), "[ERROR] FSOpenDir: Failed to open directory 'out'. Too many open files\n");
+  EXPECT_EQ(TreeOf("."), kept);
+}
+
+constexpr int kNoOwnRoot = 77;
+
+// Removes `path` in a process whose root is `root`, and ends it with the result, less its sign.
+[[noreturn]] void RemoveWithinRoot(const std::string& root, const char* path) {
+  const bool mayChroot = geteuid() == 0 || unshare(CLONE_NEWUSER) == 0;
+  if (!mayChroot || chroot(root.c_str()) != 0 || chdir("/") != 0) _exit(kNoOwnRoot);
+  // Never go on in a root that is not the test's own.
+  if (access("/d/f", F_OK) != 0 || access("/etc", F_OK) == 0) _exit(kNoOwnRoot);
+  _exit(-FSRemove(path, false));
+}
+
+TEST_F(FileOp, RemoveRefusesTheRootByEveryName) {
+  const Tree content = {{"d", "folder"}, {"d/f", "file: x"}};
+  MakeTree(".", content);
+  MakeTree(".", {{"all", "link: /"}});
+  const auto remove = [this](const char* path) {
+    const pid_t child = fork();
+    if (child == 0) RemoveWithinRoot(dir_.path, path);
+    int status = 0;
+    waitpid(child, &status, 0);
+    return -WEXITSTATUS(status);
+  };
+  if (remove("/") == -kNoOwnRoot) GTEST_SKIP() << "this user may not change the root";
+  for (const char* path : {"/", "//", "/.", "/./", ".", "/d/..", "d/../", "/..", "all/."}) {
+    EXPECT_EQ(remove(path), -3) << path;
+    EXPECT_EQ(ReadFile("d/f"), "x") << path;
+  }
+  EXPECT_EQ(remove("all/"), 0) << "the link itself can go";
+  EXPECT_EQ(TreeOf("."), content);
+}
+
+TEST(FilePaths, AreCutAtTheLastSlash) {
+  EXPECT_EQ(FSParentPath("/a/b/"), "/a/b");
+  EXPECT_EQ(FSParentPath("/a"), "/");
+  EXPECT_EQ(FSParentPath("a"), "/");
+  EXPECT_EQ(FSBaseName("/a/b"), "b");
+  EXPECT_EQ(FSBaseName("/a/b/"), "");
+  EXPECT_EQ(FSBaseName("a"), "a");
+  EXPECT_TRUE(FSIsParentFolder("/a", "/a"));
+  EXPECT_TRUE(FSIsParentFolder("/a", "/a/b"));
+  EXPECT_FALSE(FSIsParentFolder("/a", "/ab"));
+  EXPECT_FALSE(FSIsParentFolder("/a/b", "/a"));
+}
+
+TEST_F(FileOp, LinksAreResolvedMadeAndReadOrTheReasonIsLogged) {
+  const std::string longest(1023, 'l');
+  MakeTree(".", {{"d/f", "file: x"},
+                 {"way", "link: d"},
+                 {"way2", "link: d/f"},
+                 {"longest", "link: " + longest},
+                 {"too-long", "link: l" + longest}});
+  ustring text = "way/../way2";
+  EXPECT_EQ(FSGetRealPath(text), 0);
+  EXPECT_EQ(text, dir_ / "d/f");
+  EXPECT_EQ(NewLines(),
+            "[DEBUG]  org path [way/../way2]\n[DEBUG]  get full path [" + dir_ / "d/f" + "]\n");
+  text = "no/x";
+  EXPECT_EQ(FSGetRealPath(text), -1);
+  EXPECT_EQ(text, "no/x");
+  EXPECT_EQ(NewLines(), "[DEBUG]  org path [no/x]\n");
+
+  EXPECT_EQ(FSReadSymbolicLink("longest", text), 0);
+  EXPECT_EQ(text, longest);
+  EXPECT_EQ(FSReadSymbolicLink("too-long", text), -1);
+  EXPECT_EQ(errno, ENAMETOOLONG);
+  EXPECT_EQ(text, longest);
+  EXPECT_EQ(NewLines(),
+            "[ERROR] FSReadSymbolicLink: Failed to read symbolic link 'too-long' "
+            "(code: 36, msg: File name too long)\n");
+  Check(FSCreateSymbolicLink,
+        {{"nowhere", "made", 0},
+         {"t", "d", -1,
+          "[ERROR] FSCreateSymbolicLink: Failed to create symbolic link 't' -> 'd' "
+          "(code: 17, msg: File exists)\n"}});
+  EXPECT_EQ(FSChown("made", geteuid(), getegid()), 0) << "the link itself";
+  EXPECT_EQ(FSChown("no", geteuid(), getegid()), -1);
+  EXPECT_EQ(NewLines(),
+            "[ERROR] FSChown: Failed to chown 'no' (code: 2, msg: No such file or directory)\n");
+}
+
+TEST_F(FileOp, OnlyForbiddenAccessLocksAFile) {
+  WriteFile("f", "");
+  EXPECT_TRUE(isFileLocked("f", X_OK));
+  EXPECT_FALSE(hasFilePermission("f", X_OK));
+  EXPECT_FALSE(isFileLocked("no", X_OK));
+  EXPECT_TRUE(hasFilePermission("no", X_OK));
+}
+
+TEST_F(FileOp, FileSystemsAreToldOrTheReasonIsLogged) {
+  EXPECT_FALSE(isMountPoint("/dev"));
+  EXPECT_FALSE(IsMSDOS("/dev"));
+  EXPECT_EQ(NewLines(), "");
+  EXPECT_FALSE(isMountPoint("no"));
+  EXPECT_FALSE(IsMSDOS("no"));
+  const std::string what = "Failed to get file system info 'no'. No such file or directory\n";
+  EXPECT_EQ(NewLines(), "[ERROR] isMountPoint: " + what + "[ERROR] IsSupportLargeFile: " + what);
+}
+
+TEST_F(FileOp, TemporaryFilesAreNewAndNowhereElse) {
+  MakeTree(".", {{"d", "folder"}});
+  ustring path;
+  EXPECT_EQ(FSMktemp("d", path), 0);
+  EXPECT_EQ(FSParentPath(path), "d");
+  EXPECT_EQ(ModeOf(path.c_str()), 0644U);
+  EXPECT_EQ(FSMktemp("no", path), -1);
+  EXPECT_EQ(NewLines(), "[ERROR] mkstemp(no/XXXXXX): No such file or directory\n");
+  const std::string tooLong = "d" + std::string(4088, '/') + "XXXXXX/too-long";
+  EXPECT_EQ(FSMktemp(tooLong, path), -1) << "cut, it would name a file in `d`";
+  EXPECT_EQ(TreeOf("d").size(), 1U);
+
+  EXPECT_EQ(FSCreateTempPath("d", path), 0);
+  EXPECT_EQ(path.length(), std::string("d/").size() + 8);
 }
 
 }  // namespace

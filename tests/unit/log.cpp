@@ -1,195 +1,313 @@
+#include "log.h"
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <cerrno>
 #include <ctime>
 #include <future>
+#include <set>
 
 #include "support/tree.h"
 
 #define LOG_UNIT "unit"
-#include "log.h"
+#include "log.h"  // again: a file may have included it before it named itself
 
 namespace {
 
-using Sizes = std::pair<size_t, size_t>;
+std::string g_system_log;  // what would have reached it, each line with its priority
+
+}  // namespace
+
+extern "C" __attribute__((format(printf, 2, 0))) void vsyslog(int priority, const char* format,
+                                                              va_list args) {
+  char text[256];
+  vsnprintf(text, sizeof text, format, args);
+  g_system_log += std::to_string(priority) + " " + text;
+}
+
+namespace {
+
+using Entries = std::map<std::string, std::string>;
 
 constexpr size_t kLimit = 1048576;
 constexpr size_t kStamp = 16;  // "Nov 16 20:41:07 "
+const ustring kComponent = "some_debug";
 
-TEST(Config, TakesWellFormedLinesAndForgetsAllAtAMalformedOne) {
+Entries EntriesOf(const Config& config) {
+  Entries entries;
+  for (const auto& [key, value] : config) entries[key.c_str()] = value.c_str();
+  return entries;
+}
+
+TEST(Config, ReadsLinesOfKeyAndValue) {
   const TempDir dir;
-  const std::string file = dir / "file", piece(8189, 'x'),
-                    nuls("j=b\0c d\n\0 e f\ng\0=h\nk=j\n", 23);
-  WriteFile(
-      file,
-      nuls + "l=" + piece +
-          "m=n\na = b\r\n \t\v\fK.y-z_9 \t=\tx\t#c\nb=1\nb=2\n=b\n# x y\n\n \t\n  # z\nx#b=c\n"
-          "c=b#c\nd=e #f\ne= #h\nf=\"b c\" # d\ng='f\"g'#\nh=\"\"\ni=j'k\"l\xC3\xA9\x80\xFF\nkey");
-  Config config;
-  config["~"] = "kept";
-  EXPECT_EQ(config.read(file), 0);
-  ASSERT_EQ(mkfifo((dir / "pipe").c_str(), 0600), 0);
-  // Where there is a file of the last name, it opens and then cannot be read.
-  EXPECT_EQ(config.read(dir / "no") + config.read(dir.path) + config.read(dir / "pipe") +
-                config.read("/proc/self/mem"),
-            -4);
-  EXPECT_EQ(testing::PrintToString(config),
-            "{ (, b), (K.y-z_9, x), (a, b), (b, 2), (c, b#c), (d, e), (e, #h), (f, b c), (g, "
-            "f\"g), (h, ), "
-            "(i, j'k\"l\xC3\xA9\x80\xFF), (j, b), (k, j), (l, " +
-                piece + "), (m, n), (~, kept) }");
-  for (const char* text :
-       {"a=1\nb=2\na b\n", "key\n", "key ", "a=", "a= \n", "a=b c\n", "a=\"b\n", "a=\"",
-        "a=\"b\tc\"\n", "a='b'c\n", "a=b\x7F\n", "a=\x01\n", "[section]\n", "\xC3\xA9=1\n"}) {
-    config["~"] = "kept";
-    WriteFile(file, text);
-    EXPECT_TRUE(config.read(file) == -1 && config.empty()) << text;
+  const std::string longest(8189, 'x');
+  struct Row {
+    std::string text;
+    Entries entries;
+  };
+  const Row rows[] = {
+      {"a = b\r\n", {{"a", "b"}}},
+      {" \t\v\fK.y-z_9 \t=\tx\t#c\n", {{"K.y-z_9", "x"}}},
+      {"b=1\nb=2\n", {{"b", "2"}}},
+      {"=b\n", {{"", "b"}}},
+      {"# x y\n\n \t\n  # z\nx#b=c\nkey", {}},
+      {"c=b#c\nd=e #f\ne= #h\n", {{"c", "b#c"}, {"d", "e"}, {"e", "#h"}}},
+      {"f=\"b c\" # d\ng='f\"g'#\nh=\"\"\n", {{"f", "b c"}, {"g", "f\"g"}, {"h", ""}}},
+      {"i=j'k\"l\xC3\xA9\x80\xFF\n", {{"i", "j'k\"l\xC3\xA9\x80\xFF"}}},
+      {std::string("j=b\0c d\n\0 e f\ng\0=h\nk=j\n", 23), {{"j", "b"}, {"k", "j"}}},
+      {"l=" + longest + "m=n", {{"l", longest}, {"m", "n"}}},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.text);
+    WriteFile(dir / "file", row.text);
+    Config config;
+    EXPECT_EQ(config.read(dir / "file"), 0);
+    EXPECT_EQ(EntriesOf(config), row.entries);
   }
 }
 
-class LoggerTest : public testing::Test {
- protected:
+TEST(Config, ForgetsEverythingAtAMalformedLine) {
+  const TempDir dir;
+  const char* const texts[] = {
+      "a=1\nb=2\na b\n", "key\n",    "key ",        "a=",           "a= \n",
+      "a=b c\n",         "a=\"b\n",  "a=\"",        "a=\"b\tc\"",   "a='b'c",
+      "a=b\x7F\n",       "a=\x01\n", "[section]\n", "\xC3\xA9=1\n",
+  };
+  for (const char* text : texts) {
+    SCOPED_TRACE(text);
+    Config config;
+    config["before"] = "x";
+    WriteFile(dir / "file", text);
+    EXPECT_EQ(config.read(dir / "file"), -1);
+    EXPECT_EQ(EntriesOf(config), Entries());
+  }
+}
+
+TEST(Config, KeepsItsEntriesWhenNothingCanBeRead) {
+  const TempDir dir;
+  std::filesystem::current_path(dir.path);
+  ASSERT_EQ(mkfifo("pipe", 0600), 0);
+  // The last of them opens, and then cannot be read.
+  for (const ustring path : {"", "no", ".", "pipe", "/proc/self/mem"}) {
+    Config config;
+    config["before"] = "x";
+    EXPECT_EQ(config.read(path), -1) << path;
+    EXPECT_EQ(EntriesOf(config), (Entries{{"before", "x"}})) << path;
+  }
+}
+
+struct LoggerTest : testing::Test {
   ~LoggerTest() override { Logger::Destroy(); }
 
   void Open(int rotations) {
     ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, log, dir / "levels", rotations), 0);
   }
 
-  // Writes lines of so many bytes. Returns the sizes of PATH_0 and PATH, 0 where there is no such
-  // file.
-  Sizes Fill(const std::vector<size_t>& lines) {
-    for (const size_t line : lines) {
-      errno = ENOTTY;
-      Logger::LogMsg(Logger::LEVEL_ERROR, "some_debug", "%s\n",
-                     std::string(line - kStamp - 1, 'f').c_str());
-      EXPECT_EQ(errno, ENOTTY);
-    }
-    return {ReadFile(log + "_0").size(), ReadFile(log).size()};
+  // Writes one line of so many bytes.
+  static void Write(size_t bytes) {
+    const std::string text(bytes - kStamp - 1, 'f');
+    errno = ENOTTY;
+    Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "%s\n", text.c_str());
+    EXPECT_EQ(errno, ENOTTY) << "callers test it after they have logged it";
   }
+
+  size_t CurrentSize() const { return ReadFile(log).size(); }
+  size_t RotatedSize() const { return ReadFile(log + "_0").size(); }
 
   const TempDir dir;
   std::string log = dir / "log";
 };
 
 TEST_F(LoggerTest, WritesWhatTheComponentsLevelLetsThrough) {
-  // How many of the five levels each component wrote.
-  const auto written = [this](const char* config) {
-    WriteFile(dir / "levels", config);
-    Open(50);
-    std::string counts;
-    for (const ustring component :
-         {"unknown", "default_component", "chatty", "silent", "hex", "minus", "many"}) {
-      WriteFile(log, "");
-      for (int level = 3; level < 8; ++level)
-        Logger::LogMsg(Logger::Level(level), component, "%d", level);
-      counts += std::to_string(ReadFile(log).size() / (kStamp + 1));
+  // The highest level that is written.
+  const auto highest = [this](const ustring& component) {
+    WriteFile(log, "");
+    for (const auto level : {Logger::LEVEL_ERROR, Logger::LEVEL_WARNING, Logger::LEVEL_NOTE,
+                             Logger::LEVEL_INFO, Logger::LEVEL_DEBUG}) {
+      Logger::LogMsg(level, component, "%d", level);
     }
-    return counts;
+    const std::string written = ReadFile(log);
+    return written.empty() ? 0 : written.back() - '0';
   };
-  EXPECT_EQ(
-      written(
-          "chatty=\"  5abc\"\nsilent=x\nhex=0x7\nminus=-7\ndefault_component=6\nmany=2147483648"),
-      "2430005");
-  EXPECT_EQ(written("silent=7\nmalformed line\n"), "2230005");
+  WriteFile(dir / "levels",
+            "chatty=\"  5abc\"\nsilent=x\nhex=0x7\nminus=-7\nmany=2147483648\n"
+            "default_component=6\n");
+  Open(50);
+  EXPECT_EQ(highest("unknown"), Logger::LEVEL_WARNING);
+  EXPECT_EQ(highest("default_component"), Logger::LEVEL_INFO);
+  EXPECT_EQ(highest("chatty"), Logger::LEVEL_NOTE);
+  EXPECT_EQ(highest("many"), Logger::LEVEL_DEBUG);
+  EXPECT_EQ(highest("silent"), 0);
+  EXPECT_EQ(highest("hex"), 0);
+  EXPECT_EQ(highest("minus"), 0);
+
+  WriteFile(dir / "levels", "silent=7\nmalformed line\n");
+  Open(50);
+  EXPECT_EQ(highest("default_component"), Logger::LEVEL_WARNING);
+  EXPECT_EQ(highest("chatty"), Logger::LEVEL_NOTE);
+  EXPECT_EQ(highest("silent"), 0);
 }
 
-TEST_F(LoggerTest, StampsEveryOutputWithTheLocalTime) {
+TEST_F(LoggerTest, StampsEveryOutputButTheSystemLogWithTheLocalTime) {
   setenv("TZ", "ABC-5:30", 1);
-  for (const unsigned type : {1U, 2U, 3U, 4U}) {
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    ASSERT_EQ(Logger::Initialize(static_cast<Logger::Type>(type), log, "", 50), 0);
-    Logger::LogMsg(Logger::LEVEL_ERROR, "some_debug", "no end %d", 2);
-    const std::string out = testing::internal::GetCapturedStdout(),
-                      err = testing::internal::GetCapturedStderr();
-    std::set<std::string> possible;  // in this second, or the one before
-    for (const time_t shifted : {time(nullptr) + 19799, time(nullptr) + 19800}) {
-      char text[64] = "";
-      if (type != Logger::TYPE_SYSLOG)
-        strftime(text, sizeof text, "%b %d %H:%M:%S no end 2", gmtime(&shifted));
-      possible.insert(std::string("###").insert(type % 4, text));
-    }
-    EXPECT_EQ(possible.count(ReadFile(log) + "##" + out + "#" + err), 1U) << type << out << err;
+  const auto write = [this](Logger::Type type) {
+    ASSERT_EQ(Logger::Initialize(type, log, "", 50), 0);
+    Logger::LogMsg(Logger::LEVEL_WARNING, kComponent, "no end %d", 2);
+  };
+  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
+  const time_t before = time(nullptr);
+  write(Logger::TYPE_STDOUT);
+  write(Logger::TYPE_STDERR);
+  write(Logger::TYPE_FILE);
+  std::set<std::string> possible;
+  for (time_t shifted = before + 19800; shifted <= time(nullptr) + 19800; ++shifted) {
+    char text[64] = "";
+    strftime(text, sizeof text, "%b %d %H:%M:%S no end 2", gmtime(&shifted));
+    possible.insert(text);
   }
+  const std::string out = testing::internal::GetCapturedStdout();
+  const std::string err = testing::internal::GetCapturedStderr();
+  for (const std::string& text : {out, err, ReadFile(log)}) {
+    EXPECT_EQ(possible.count(text), 1U) << text;
+  }
+
+  write(Logger::TYPE_SYSLOG);
+  EXPECT_EQ(g_system_log, "3 no end 2") << "no time, and one priority for all levels";
 }
 
 TEST(Logger, WritesWarningsToStandardErrorBeforeInitialize) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");  // a new process, where nothing was initialised
-  EXPECT_EXIT(
-      (LOG_NOTE("some_debug", "dropped\n"), LOG_WARNING("some_debug", "written\n"), exit(0)),
-      testing::ExitedWithCode(0), "^.{16}.WARNING. unit.[0-9]+.: written\n$");
+  const auto log = [] {
+    LOG_NOTE(kComponent, "dropped\n");
+    LOG_WARNING(kComponent, "written\n");
+    exit(0);
+  };
+  EXPECT_EXIT(log(), testing::ExitedWithCode(0), "^.{16}.WARNING. unit.[0-9]+.: written\n$");
 }
 
-TEST_F(LoggerTest, RotatesOrDropsLinesAfterTheOneThatCrossesTheLimit) {
-  WriteFile(log, "x");  // does not count
+TEST_F(LoggerTest, RotatesAfterTheLineThatCrossesTheLimit) {
+  WriteFile(log, "x");  // what was there before does not count
   Open(1);
-  EXPECT_EQ(Fill({kLimit - 100, 100}), Sizes(0, 1 + kLimit));
-  EXPECT_EQ(Logger::Initialize(Logger::TYPE_FILE, "", "", 9), -1);  // changes nothing
-  EXPECT_EQ(Fill({50}), Sizes(kLimit + 51, 0));
-  Fill({kLimit});
+  Write(kLimit - 100);
+  Write(100);
+  EXPECT_EQ(CurrentSize(), 1 + kLimit);
+  EXPECT_EQ(Logger::Initialize(Logger::TYPE_FILE, "", "", 9), -1) << "changes nothing";
+  Write(50);
+  EXPECT_EQ(RotatedSize(), kLimit + 51);
+  EXPECT_EQ(CurrentSize(), 0U);
+
+  Write(kLimit);
   Logger::ReloadLogFile();  // counts from 0 again
-  EXPECT_EQ(Fill({kLimit - 16}), Sizes(kLimit + 51, 2 * kLimit - 16));
-  EXPECT_EQ(Fill({17}), Sizes(2 * kLimit + 1, 0));
+  Write(kLimit - 16);
+  EXPECT_EQ(CurrentSize(), 2 * kLimit - 16);
+  Write(17);
+  EXPECT_EQ(RotatedSize(), 2 * kLimit + 1);
+  EXPECT_EQ(CurrentSize(), 0U);
+}
+
+TEST_F(LoggerTest, WorksWithoutTheCountsThatWritersShare) {
+  Open(50);
+  Logger::DestroySharedData();
+  EXPECT_EQ(Logger::Rotate(), 0);
+  EXPECT_EQ(TreeOf(dir.path), (Tree{{"log", "file: "}, {"log_0", "file: "}}));
   std::filesystem::remove(log);
-  Logger::DestroySharedData();  // now the count of rotations differs, as it does when another
-                                // writer has rotated
-  EXPECT_EQ(Fill({100}), Sizes(2 * kLimit + 1, 100));
+  Logger::DestroySharedData();  // as if another writer had rotated: the log is opened again
+  Write(100);
+  EXPECT_EQ(CurrentSize(), 100U);
+}
+
+TEST_F(LoggerTest, DropsLinesOnceItCannotRotate) {
+  Open(50);
   std::filesystem::remove(log);  // cannot be renamed then
-  EXPECT_EQ(Fill({kLimit, 100}), Sizes(0, 0));
+  Write(kLimit + 1);
+  Write(100);
+  EXPECT_EQ(TreeOf(dir.path), Tree());
 }
 
 TEST_F(LoggerTest, KeepsOneOldFileLessThanItsDepth) {
-  const char* const left[] = {" log_1=b log_2=c", " log_1=b log_2=c", " log_2=c", " log_1=a"};
+  const Tree older[] = {
+      {{"log_1", "file: b"}, {"log_2", "file: c"}},
+      {{"log_1", "file: b"}, {"log_2", "file: c"}},
+      {{"log_2", "file: c"}},
+      {{"log_1", "file: a"}},
+  };
   for (int depth = 0; depth < 4; ++depth) {
-    BuildTree(dir.path, "log=d log_0=a log_1=b log_2=c");
+    MakeTree(dir.path, {{"log", "file: d"}, {"log_0", "file: a"}});
+    MakeTree(dir.path, {{"log_1", "file: b"}, {"log_2", "file: c"}});
     Open(depth);
     EXPECT_EQ(Logger::Rotate(), 0);
-    EXPECT_EQ(ListTree(dir.path), std::string("log= log_0=d") + left[depth]);
+    Tree left = {{"log", "file: "}, {"log_0", "file: d"}};
+    left.insert(older[depth].begin(), older[depth].end());
+    EXPECT_EQ(TreeOf(dir.path), left) << depth;
   }
 }
 
-TEST_F(LoggerTest, GoesOnAsBeforeWhereItCannotOpenOrRotate) {
+TEST_F(LoggerTest, KeepsItsStreamWhenAFileCannotBeOpened) {
   testing::internal::CaptureStderr();
   ASSERT_EQ(Logger::Initialize(Logger::TYPE_STDERR, "", "", 50), 0);
   EXPECT_EQ(Logger::Initialize(Logger::TYPE_FILE, dir / "no/folder", "", 1), -1);
   EXPECT_EQ(Logger::Rotate(), -1);
-  Fill({kLimit + 1, 100});
+  Write(kLimit + 1);
+  Write(100);
   Logger::Destroy();
-  Fill({100});
-  EXPECT_EQ(testing::internal::GetCapturedStderr().size(), kLimit + 101);  // silent from Destroy on
-  log = dir / std::string(1019 - dir.path.size(), '/') +
-        "log";  // the rotated names would be cut, all to this one
+  Write(100);
+  EXPECT_EQ(testing::internal::GetCapturedStderr().size(), kLimit + 101)
+      << "silent from Destroy on";
+}
+
+TEST_F(LoggerTest, NeverRotatesToNamesThatWouldBeCut) {
+  log = dir / std::string(1019 - dir.path.size(), '/') + "log";
   Open(3);
-  EXPECT_EQ(Fill({kLimit + 1, 100}), Sizes(0, kLimit + 101));
+  Write(kLimit + 1);
+  Write(100);
+  EXPECT_EQ(CurrentSize(), kLimit + 101);
+}
+
+__attribute__((format(printf, 1, 2))) void LogThroughPlainPointer(const char* format, ...) {
+  char component[] = "some_debug";
+  va_list args;
+  va_start(args, format);
+  LogMSG_c(Logger::LEVEL_ERROR, component, format, reinterpret_cast<char*>(&args));
+  va_end(args);
+}
+
+TEST_F(LoggerTest, TakesAStartedListAsAPlainPointer) {
+  if constexpr (std::is_same_v<va_list, char*>) GTEST_SKIP() << "a started list is one anyway";
+  Open(50);
+  LogThroughPlainPointer("%d %s\n", 1, "two");
+  EXPECT_EQ(ReadFile(log).substr(kStamp), "1 two\n");
 }
 
 TEST_F(LoggerTest, LosesAndTearsNoLineOfManyThreads) {
+  constexpr int kLines = 3000;
   const std::string tail(300, 'x');
+  const std::string threads = "abcdefgh";
   Open(50);
   Logger::DestroySharedData();
   Logger::DestroyLock();  // the first lines make both anew, at once
-  std::vector<std::future<void>> threads;
-  for (char thread = 'a'; thread < 'i'; ++thread) {
-    threads.push_back(std::async(std::launch::async, [thread, &tail] {
-      for (int line = 0; line < 3000; ++line) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, "some_debug", "%c %d %s\n", thread, line, tail.c_str());
+  std::vector<std::future<void>> running;
+  for (const char thread : threads) {
+    running.push_back(std::async(std::launch::async, [thread, &tail] {
+      for (int line = 0; line < kLines; ++line) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, kComponent, "%c %d %s\n", thread, line, tail.c_str());
       }
     }));
   }
-  threads.clear();  // waits for them
-  std::map<char, int> lines;
+  running.clear();  // waits for them
+  std::map<char, int> next;
   for (const char* end : {"_6", "_5", "_4", "_3", "_2", "_1", "_0", ""}) {
     std::ifstream file(log + end);
     ASSERT_TRUE(file) << end;
     for (std::string line; std::getline(file, line);) {
       line.erase(0, kStamp);
-      ASSERT_EQ(line, line.substr(0, 1) + " " + std::to_string(lines[line[0]]++) + " " + tail);
+      const char thread = line[0];
+      ASSERT_EQ(line, std::string(1, thread) + " " + std::to_string(next[thread]++) + " " + tail);
     }
   }
-  EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
-                          [](const auto& thread) { return thread.second == 3000; }),
-            8);
+  for (const char thread : threads) EXPECT_EQ(next[thread], kLines) << thread;
 }
 
 }  // namespace

@@ -1,14 +1,18 @@
-// Every call of an operation into the system fails. Each run is this program again, under the
-// library that does it.
+// Every system call of an operation fails in turn. Each run is a process of its own: this program
+// again, under the library that makes the call fail.
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
+#include <set>
 #include <sstream>
 #include <string>
-#include <utility>
 
 #include "file/file-op.h"
 #include "log.h"
@@ -19,77 +23,200 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Its results, without their sign; the calls that may fail and leave it 0; what lies "here|there"
-// before and after.
-const struct Operation {
-  std::string name, results, spared, before, after;
-} kOperations[] = {
-    {"FSMKDirP", "01", " stat ", "here/d here/d/f=x", "d/ d/f/|"},
-    {"FSCopy", "012", " fstat stat fsync close close-w ", "here/f=1st", "f=1st|f=1st"},
-    {"FSRename", "023", " fstat stat close close-w readdir ", "here/t here/t/f=1st", "|t/ t/f=1st"},
-    {"FSRename", "023", " fstat stat close close-w ", "here/t=1st", "|t=1st"},
-    {"FSRemove", "013", " open fdopendir fstat readdir close ",
-     "here/t here/t/s here/t/s/g=x here/t/l>../../out", "|"},
-    {"FSRemove", "013", "", "here/t=x", "|"},
-    {"FSReadDir", "01", " lstat realpath ", "here/f=1st", "f=1st|"},
-    {"Rotate", "01", " open fstat close rename remove ", "here/c=a=7 here/log=1st",
-     "c=a=7 log= log_0=1st|"},
+using Calls = std::set<std::string>;
+
+int ReadFolder(const std::string& here, const std::string&) {
+  DIR_HANDLE handle;
+  if (FSOpenDir(here, 1, handle) != 0) return -1;
+  int result = 1;
+  for (DIR_ENTRY entry; result > 0;) result = FSReadDir(handle, entry);
+  FSCloseDir(handle);
+  return result;
+}
+
+int MakeFolders(const std::string& here, const std::string&) {
+  return FSMKDirP(here + "/t/f", nullptr, true, 0777);
+}
+
+int Copy(const std::string& here, const std::string& there) {
+  return FSCopy(here + "/t", there + "/t", false);
+}
+
+int Move(const std::string& here, const std::string& there) {
+  return FSRename(here + "/t", there + "/t", true);
+}
+
+int Remove(const std::string& here, const std::string&) {
+  return FSRemove(here + "/t", false);
+}
+
+int Rotate(const std::string& here, const std::string&) {
+  const int result = Logger::Initialize(Logger::TYPE_FILE, here + "/log", here + "/levels", 2);
+  return result == 0 ? Logger::Rotate() : result;
+}
+
+struct Operation {
+  const char* name;
+  int (*run)(const std::string& here, const std::string& there);
+  std::set<int> results;
+  Calls harmless;  // calls whose failure may leave the result 0
+  Tree before;     // in the folder `here`; the folder `there` is empty
+  Tree hereAfter;
+  Tree thereAfter;
 };
-// How calls fail; what is interrupted for ever is tried for ever.
-const std::pair<const char*, int> kFaults[] = {
+
+const Tree kFile = {{"t", "file: data"}};
+const Tree kFolder = {{"t", "folder"}, {"t/f", "file: data"}};
+const Tree kFolders = {{"t", "folder"}, {"t/f", "folder"}};
+const Tree kLinks = {{"t/s/g", "file: x"}, {"t/l", "link: ../../outside"}};
+const Tree kLog = {{"levels", "file: a=7"}, {"log", "file: data"}};
+const Tree kRotated = {{"levels", "file: a=7"}, {"log", "file: "}, {"log_0", "file: data"}};
+const Calls kOfCopy = {"fstat", "stat", "fsync", "close", "close-w"};
+const Calls kOfMove = {"fstat", "stat", "close", "close-w", "readdir"};
+const Calls kOfRemove = {"open", "fdopendir", "fstat", "readdir", "close"};
+const Calls kOfRotation = {"open", "fstat", "close", "rename", "remove"};
+
+const Operation kOperations[] = {
+    {"make folders", MakeFolders, {0, -1}, {"stat"}, kFolder, kFolders, {}},
+    {"copy", Copy, {0, -1, -2}, kOfCopy, kFile, kFile, kFile},
+    {"move a folder", Move, {0, -2, -3}, kOfMove, kFolder, {}, kFolder},
+    {"move a file", Move, {0, -2, -3}, kOfMove, kFile, {}, kFile},
+    {"remove a folder", Remove, {0, -1, -3}, kOfRemove, kLinks, {}, {}},
+    {"remove a file", Remove, {0, -1, -3}, {}, kFile, {}, {}},
+    {"read a folder", ReadFolder, {0, -1}, {"lstat", "realpath"}, kFile, kFile, {}},
+    {"rotate", Rotate, {0, -1}, kOfRotation, kLog, kRotated, {}},
+};
+
+struct Fault {
+  const char* mode;
+  int error;
+};
+
+// What is interrupted for ever is tried for ever, so EINTR comes only once.
+const Fault kFaults[] = {
     {"once", EINTR}, {"once", EIO},      {"once", EACCES},   {"once", ENOSPC},   {"once", EDQUOT},
     {"always", EIO}, {"always", EACCES}, {"always", ENOSPC}, {"always", EDQUOT}, {"short", 0},
 };
 
-// One run, in which the call of that number meets the fault. False when there are fewer calls.
-bool Try(const Operation& operation, const std::string& mode, int error, int number) {
-  const auto& [name, results, spared, before, after] = operation;
-  const fs::path memory = fs::exists("/dev/shm") ? "/dev/shm" : "/tmp";
-  const TempDir there(memory),
-      scratch(name == "FSRename" ? fs::temp_directory_path() : memory);  // across devices
-  BuildTree(scratch.path, "out out/kept=k here " + before);
-  std::ostringstream command;
-  command << "cd " << scratch.path
-          << "; FAULT_FUNCTION=all FAULT_PATH=/lumivo-test- FAULT_COUNT_FILE=calls FAULT_MODE="
-          << mode << " FAULT_ERRNO=" << error << " FAULT_NTH=" << number
-          << " LD_PRELOAD='" LUMIVO_FAULT_PRELOAD << "' /proc/$PPID/exe " << name << " $PWD/here "
-          << there.path << " 2>log; exit $?";
-  const int result = WEXITSTATUS(
-      system(command.str().c_str()));  // the shell's, so that there is one after a crash
-  std::istringstream calls(ReadFile(scratch / "calls"));
-  std::string call;
-  for (int i = 0; i < number; ++i) std::getline(calls, call);
-  call = call.substr(0, call.find(' '));
-  const bool isLogged = ReadFile(scratch / "log").find("[ERROR]") != std::string::npos;
-  const std::string tree = ListTree(scratch / "here") + "|" + ListTree(there.path);
-  SCOPED_TRACE(testing::Message() << command.str() << ": " << call << " " << result << " " << tree);
-  EXPECT_NE(results.npos, results.find(std::to_string(result)));
-  EXPECT_EQ("kept=k", ListTree(scratch / "out"));
-  EXPECT_TRUE(result != 0 || tree == after || (name == "FSRemove" && isLogged)) << "not done";
-  EXPECT_TRUE(after.find("1st") == after.npos || tree.find("1st") != tree.npos) << "data are lost";
+constexpr int kDescriptorsLeak = 100;
 
-  const auto is = [&call](const std::string& list) {
-    return list.find(" " + call + " ") != list.npos;
+// The child's side of a run. Its exit code is the result, less its sign.
+int RunOperation(const Operation& operation, const std::string& here, const std::string& there) {
+  const auto countDescriptors = [] {
+    return std::distance(fs::directory_iterator("/proc/self/fd"), {});
   };
-  const bool isOfCopy = is(" open open-w read write fsync ");
-  const bool isRetried = isOfCopy && error == EINTR && (name == "FSCopy" || name == "FSRename");
-  if ((call.empty() && number > 1) || mode == "short" || isRetried) {
-    EXPECT_TRUE(result == 0 && !isLogged) << "there was no fault";
-    return !call.empty();
+  const auto before = countDescriptors();
+  const int result = operation.run(here, there);
+  Logger::Destroy();
+  return countDescriptors() > before ? kDescriptorsLeak : -result;
+}
+
+// What a run left behind.
+struct Outcome {
+  int result;
+  std::string call;  // the one that met the fault; empty when there were fewer
+  bool hasLogged;
+  Tree here;
+  Tree there;
+  Tree outside;
+};
+
+Outcome RunUnderFault(const Operation& operation, const Fault& fault, int number) {
+  const fs::path memory = fs::exists("/dev/shm") ? "/dev/shm" : "/tmp";
+  const bool crossesDevices = operation.run == Move;
+  const TempDir scratch(crossesDevices ? fs::temp_directory_path() : memory);
+  const TempDir there(memory);
+  MakeTree(scratch.path, {{"here", "folder"}, {"outside", "folder"}, {"outside/kept", "file: k"}});
+  MakeTree(scratch / "here", operation.before);
+
+  const pid_t child = fork();
+  if (child == 0) {
+    setenv("LD_PRELOAD", LUMIVO_FAULT_PRELOAD, 1);
+    setenv("FAULT_FUNCTION", "all", 1);
+    setenv("FAULT_PATH", "/lumivo-test-", 1);
+    setenv("FAULT_COUNT_FILE", (scratch / "calls").c_str(), 1);
+    setenv("FAULT_MODE", fault.mode, 1);
+    setenv("FAULT_ERRNO", std::to_string(fault.error).c_str(), 1);
+    setenv("FAULT_NTH", std::to_string(number).c_str(), 1);
+    if (freopen((scratch / "log").c_str(), "w", stderr) != nullptr) {
+      execl("/proc/self/exe", "sweep", operation.name, (scratch / "here").c_str(),
+            there.path.c_str(), nullptr);
+    }
+    _exit(127);
   }
-  EXPECT_TRUE(result != 0 || is(spared)) << "not reported";
-  const bool isFull = call == "write" && (error == ENOSPC || error == EDQUOT);
-  EXPECT_TRUE(result == 0 || name == "FSRename" || (result == 2) == isFull) << "wrongly reported";
-  const bool hasLine = isOfCopy || is(" realpath opendir fdopendir readdir ") ||
-                       (name == "FSReadDir" && result != 0);
-  EXPECT_TRUE(isLogged || name == "Rotate" || !hasLine) << "not logged";
-  return !call.empty();
+  int status = 0;
+  waitpid(child, &status, 0);
+
+  Outcome outcome;
+  outcome.result = WIFEXITED(status) ? -WEXITSTATUS(status) : WTERMSIG(status);
+  std::istringstream calls(ReadFile(scratch / "calls"));
+  for (int i = 0; i < number; ++i) {
+    std::string line;
+    std::getline(calls, line);
+    outcome.call = line.substr(0, line.find(' '));
+  }
+  outcome.hasLogged = ReadFile(scratch / "log").find("[ERROR]") != std::string::npos;
+  outcome.here = TreeOf(scratch / "here");
+  outcome.there = TreeOf(there.path);
+  outcome.outside = TreeOf(scratch / "outside");
+  return outcome;
+}
+
+bool HoldsData(const Tree& tree) {
+  return std::any_of(tree.begin(), tree.end(),
+                     [](const auto& entry) { return entry.second == "file: data"; });
+}
+
+void CheckWhatIsLeft(const Operation& operation, const Outcome& outcome) {
+  EXPECT_EQ(operation.results.count(outcome.result), 1U);
+  EXPECT_EQ(outcome.outside, (Tree{{"kept", "file: k"}}));
+  const bool mayStay = operation.run == Remove && outcome.hasLogged;
+  if (outcome.result == 0 && !mayStay) {
+    EXPECT_EQ(outcome.here, operation.hereAfter);
+    EXPECT_EQ(outcome.there, operation.thereAfter);
+  }
+  if (HoldsData(operation.hereAfter) || HoldsData(operation.thereAfter)) {
+    EXPECT_TRUE(HoldsData(outcome.here) || HoldsData(outcome.there)) << "data are lost";
+  }
+}
+
+void CheckReport(const Operation& operation, const Fault& fault, const Outcome& outcome) {
+  static const Calls copying = {"open", "open-w", "read", "write", "fsync"};
+  static const Calls folders = {"realpath", "opendir", "fdopendir", "readdir"};
+  const bool isOfCopying = copying.count(outcome.call) != 0;
+  const bool copies = operation.run == Copy || operation.run == Move;
+  const bool isRetried = copies && isOfCopying && fault.error == EINTR;
+  if (outcome.call.empty() || fault.mode == std::string("short") || isRetried) {
+    EXPECT_EQ(outcome.result, 0) << "nothing had failed";
+    EXPECT_FALSE(outcome.hasLogged) << "nothing had failed";
+    return;
+  }
+  if (operation.harmless.count(outcome.call) == 0) {
+    EXPECT_NE(outcome.result, 0);
+  }
+  if (operation.run == Copy) {
+    const bool isFull = outcome.call == "write" && (fault.error == ENOSPC || fault.error == EDQUOT);
+    EXPECT_EQ(outcome.result == -2, isFull);
+  }
+  const bool failsReading = operation.run == ReadFolder && outcome.result != 0;
+  if (operation.run != Rotate &&
+      (isOfCopying || folders.count(outcome.call) != 0 || failsReading)) {
+    EXPECT_TRUE(outcome.hasLogged);
+  }
 }
 
 TEST(Sweep, EveryFaultIsReportedAndLosesNothing) {
   for (const Operation& operation : kOperations) {
-    for (const auto& [mode, error] : kFaults) {
-      for (int number = 1; Try(operation, mode, error, number); ++number) continue;
+    for (const Fault& fault : kFaults) {
+      std::string call = "none yet";
+      for (int number = 1; !call.empty(); ++number) {
+        const Outcome outcome = RunUnderFault(operation, fault, number);
+        call = outcome.call;
+        SCOPED_TRACE(testing::Message() << operation.name << ": call " << number << ", " << call
+                                        << ", " << fault.mode << " " << strerror(fault.error));
+        CheckWhatIsLeft(operation, outcome);
+        CheckReport(operation, fault, outcome);
+      }
     }
   }
 }
@@ -98,23 +225,10 @@ TEST(Sweep, EveryFaultIsReportedAndLosesNothing) {
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  if (argc < 4) return RUN_ALL_TESTS();
-  const std::string name = argv[1], here = argv[2], there = argv[3];
-  const auto descriptors = [] {
-    return std::distance(fs::directory_iterator("/proc/self/fd"), {});
-  };
-  const auto before = descriptors();
-  DIR_HANDLE handle;
-  int result = name == "FSReadDir" ? FSOpenDir(here, 1, handle) : 0;
-  for (DIR_ENTRY entry; handle.dir != nullptr && (result = FSReadDir(handle, entry)) > 0;) continue;
-  if (handle.dir != nullptr) FSCloseDir(handle);
-  if (name == "FSMKDirP") result = FSMKDirP(here + "/d/f", nullptr, true, 0777);
-  if (name == "FSCopy") result = FSCopy(here + "/f", there + "/f", false);
-  if (name == "FSRename") result = FSRename(here + "/t", there + "/t", true);
-  if (name == "FSRemove") result = FSRemove(here + "/t", false);
-  if (name == "Rotate")
-    result = Logger::Initialize(Logger::TYPE_FILE, here + "/log", here + "/c", 2);
-  if (name == "Rotate" && result == 0) result = Logger::Rotate();
-  Logger::Destroy();
-  return descriptors() > before ? 9 : -result;
+  if (argc == 4) {
+    for (const Operation& operation : kOperations) {
+      if (operation.name == std::string(argv[1])) return RunOperation(operation, argv[2], argv[3]);
+    }
+  }
+  return RUN_ALL_TESTS();
 }

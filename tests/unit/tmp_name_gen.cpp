@@ -4,54 +4,87 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdint>
 #include <future>
 #include <set>
+#include <string>
 #include <vector>
 
-// What six bytes of a key's stream at a time give, in digits of `width` bits. The key is repeated.
-static std::string Draw(std::string key, int draws, int width) {
-  while (key.size() < 256) key += key;
-  unsigned char state[256], bytes[7] = {};
-  TmpNameGen::rc4_init(state, reinterpret_cast<unsigned char*>(key.data()));
-  std::string text;
-  while (draws-- > 0) {
-    TmpNameGen::rc4_randomize(state, bytes, 6);
-    for (int bit = 0; bit < 48; bit += width) {
-      const int digit =
-          (bytes[bit / 8] << 8 | bytes[bit / 8 + 1]) >> (16 - width - bit % 8) & ((1 << width) - 1);
-      text += "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_"[digit];
-    }
+namespace {
+
+// RC4 under a key, which is repeated to the length that the generator takes.
+struct KeyStream {
+  explicit KeyStream(std::string key) {
+    while (key.size() < 256) key += key;
+    TmpNameGen::rc4_init(state, reinterpret_cast<unsigned char*>(key.data()));
   }
-  return text;
+  // The next six bytes as a number.
+  uint64_t Next() {
+    unsigned char bytes[6];
+    TmpNameGen::rc4_randomize(state, bytes, sizeof bytes);
+    uint64_t number = 0;
+    for (const unsigned char byte : bytes) number = number << 8 | byte;
+    return number;
+  }
+  unsigned char state[256];
+};
+
+std::string NameOf(uint64_t number) {
+  const char digits[] = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_";
+  std::string name;
+  for (int shift = 42; shift >= 0; shift -= 6) name += digits[number >> shift & 63];
+  return name;
 }
 
 TEST(TmpNameGen, DrawsThePublishedKeyStreams) {  // of RFC 6229 and the cipher's best known examples
-  EXPECT_EQ(Draw("\1\2\3\4\5", 1, 4), "b2396305f03d");
-  EXPECT_EQ(Draw("Key", 1, 4), "eb9f7781b734");
-  EXPECT_EQ(Draw("Wiki", 1, 4), "6044db6d41b7");
-  EXPECT_NE(Draw(std::string(256, '\0'), 1, 4), "de188941a337");  // an empty key is replaced
+  EXPECT_EQ(KeyStream("\1\2\3\4\5").Next(), 0xb2396305f03d);
+  EXPECT_EQ(KeyStream("Key").Next(), 0xeb9f7781b734);
+  EXPECT_EQ(KeyStream("Wiki").Next(), 0x6044db6d41b7);
+}
+
+TEST(TmpNameGen, FillsAnEmptyKeyFromTheTime) {
+  unsigned char state[256];
+  unsigned char key[256] = {};
+  time_t seed = time(nullptr);
+  TmpNameGen::rc4_init(state, key);
+  std::string expected;
+  for (; expected != std::string(key, key + 256) && seed <= time(nullptr); ++seed) {
+    srand(static_cast<unsigned>(seed));
+    expected.clear();
+    while (expected.size() < 256) expected += static_cast<char>(rand());
+  }
+  EXPECT_EQ(std::string(key, key + 256), expected);
 }
 
 TEST(TmpNameGen, NamesFollowFromTheMicrosecondOfCreation) {
+  using std::chrono::microseconds;
   TmpNameGen generator;
-  auto time = std::chrono::system_clock::now().time_since_epoch() / std::chrono::microseconds(1);
-  ustring names = generator.getTmpPath("a folder/");
-  names += generator.getTmpName();
+  auto time = std::chrono::system_clock::now().time_since_epoch() / microseconds(1);
+  const ustring path = generator.getTmpPath("a folder/");
+  const ustring name = generator.getTmpName();
   std::string expected;
-  for (int tries = 0; names != expected && tries < 1000000; ++tries, --time) {
+  std::string next;
+  for (int tries = 0; path != expected && tries < 1000000; ++tries, --time) {
     const std::string key = std::to_string(time / 1000000) + "-" + std::to_string(time % 1000000);
-    expected = "a folder//" + Draw(key + std::string(256, '\0'), 2, 6);
+    KeyStream stream(key + std::string(256, '\0'));
+    expected = "a folder//" + NameOf(stream.Next());
+    next = NameOf(stream.Next());
   }
-  EXPECT_EQ(names, expected);
+  EXPECT_EQ(path, expected);
+  EXPECT_EQ(name, next);
 }
 
 TEST(TmpNameGen, GivesEveryThreadOtherNames) {
-  std::vector<ustring> names(40000);
+  constexpr int kEach = 5000;
+  std::vector<ustring> names(8 * kEach);
   std::vector<std::future<void>> threads;
-  const auto take = [] { return TmpNameGen::getInstance()->getTmpName(); };
-  for (auto at = names.begin(); at != names.end(); at += 5000) {
-    threads.push_back(std::async(std::launch::async, [=] { std::generate_n(at, 5000, take); }));
+  for (auto first = names.begin(); first != names.end(); first += kEach) {
+    threads.push_back(std::async(std::launch::async, [first] {
+      std::generate_n(first, kEach, [] { return TmpNameGen::getInstance()->getTmpName(); });
+    }));
   }
   threads.clear();  // waits for them
-  EXPECT_EQ(std::set<ustring>(names.begin(), names.end()).size(), 40000u);
+  EXPECT_EQ(std::set<ustring>(names.begin(), names.end()).size(), names.size());
 }
+
+}  // namespace

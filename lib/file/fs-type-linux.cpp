@@ -6,7 +6,7 @@
 
 namespace {
 
-// The kernel has no AFP client of its own, hence no number for "afpfs".
+// The kernel has no AFP client, hence no number for "afpfs".
 struct KnownType {
   uint32_t magic;
   const char* name;
@@ -27,7 +27,7 @@ int GetFileSystemType(const ustring& path, ustring& name) {
   }
   name.clear();
   for (const KnownType& known : kKnownTypes) {
-    // The field is a signed long, into which 32-bit hosts put the larger numbers as negative ones.
+    // The field is a signed long; on 32-bit hosts the larger numbers are negative in it.
     if (static_cast<uint32_t>(info.f_type) == known.magic) {
       name = known.name;
     }
