@@ -5,7 +5,6 @@ import io
 import os
 import random
 import tarfile
-import unittest
 
 from support import CLIENT, EXECUTABLE, FULL, INFO, ORDINARY_USER
 from upgrade import INSTALLED, NEW, NEXT, OLD, ROLLED_BACK, UpgradeCase
@@ -148,7 +147,3 @@ class Archives(UpgradeCase):
         self.assert_refused("[ERROR] extractor(%d): ")
         self.archive().rmdir()
         self.assert_removable()
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)
