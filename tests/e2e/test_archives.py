@@ -46,7 +46,6 @@ CLIENT_ENTRIES = (
 HOSTILE = {
     "through a link": (Entry("link", type=LINK, target="../../../out"), Entry("link/x")),
     "a link for the bundle": (Entry(".", type=LINK, target="../../out"), Entry("x")),
-    "a file for the bundle": (Entry("."),),
     "a name too long": (Entry(LONGEST_NAME + "n"),),
 }
 UNUSUAL = (
