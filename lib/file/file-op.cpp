@@ -286,13 +286,17 @@ class TreeRemover {
     return unlinkat(folder, done.name.c_str(), AT_REMOVEDIR) == 0;
   }
 
-  static bool Reopen(Level& level, int child) {
+  bool Reopen(Level& level, int child) {
     level.dir = Open(child, "..");
+    if (level.dir == nullptr) {
+      LogOpenDirFailure(path_, errno);
+      return false;
+    }
     struct stat status;
     // If the child was moved meanwhile, its parent is a different folder, which is not ours to
     // empty.
-    return level.dir != nullptr && fstat(dirfd(level.dir.get()), &status) == 0 &&
-           status.st_dev == level.dev && status.st_ino == level.ino;
+    return fstat(dirfd(level.dir.get()), &status) == 0 && status.st_dev == level.dev &&
+           status.st_ino == level.ino;
   }
 
   void CutPaths(const std::string& name) {

@@ -11,5 +11,6 @@
 /// found out. A link at the end of the path is followed. Any thread; it takes as long as the disk
 /// does, with all that other programs have written, too.
 ///
-/// @return 0, or -1 with `errno` set: the disk reports an error, so that some of it may be lost
+/// @return 0, or -1 with `errno` set: `path` cannot be opened, or the disk reports an error, so
+/// that some of what was written may be lost
 int WriteBarrier(const ustring& path);

@@ -16,7 +16,7 @@ import subprocess
 import tempfile
 import unittest
 
-from support import EXECUTABLE, INFO, ROOT, Case, tree
+from support import EXECUTABLE, INFO, ROOT, Case, tree, wait_for
 
 FULL = os.environ.get("LUMIVO_FULL") == "1"
 OLD, NEW = 3487, 3500
@@ -123,8 +123,9 @@ class Power(Case):
 
     def take_disk_out(self):
         self.end_clients()
+        umount = lambda: subprocess.run(["umount", self.disk], stderr=subprocess.PIPE, check=False)
         if os.path.ismount(self.disk):
-            run("umount", self.disk)
+            wait_for(lambda: umount().returncode == 0, "a client that ends lets go of the disk")
 
     def begin_with(self, file_system, installed):
         """A home on a disk of its own, with a client that was installed long ago, or without one."""
@@ -192,9 +193,10 @@ class Power(Case):
         self.wait_for_client()
 
     def try_cuts(self, installed, damaged_before=False, damaged_after=False, first_cut=None):
-        """Cuts the power in a run, or in the one after the first cut, and starts the launcher once more.
+        """Cuts the power in a run, and starts the launcher once more.
 
-        `damaged_before` and `damaged_after` are about the package in those runs, and at that start.
+        `first_cut` is the call before which the power goes in another run before that one; `damaged_before` and
+        `damaged_after` are about the package in those runs, and at that last start.
         """
         old = [self.put_package(OLD)] if installed else []
 
@@ -202,7 +204,7 @@ class Power(Case):
             self.begin_with(file_system, installed)
             self.put_new_package(damaged_before)
             if first_cut:
-                self.run_until(first_cut)
+                self.run_until(Cut(first_cut, file_system, force_another_file))
 
         begin("ext4")
         for cut in cuts(self.run_with_fault()):
@@ -230,7 +232,7 @@ class Power(Case):
         self.put_new_package()
         calls = self.run_with_fault()
         files = [number for number, call in enumerate(calls, 1) if call.startswith("open-w")]
-        first_cut = Cut(files[len(files) // 2], "any", force_another_file)
+        first_cut = files[len(files) // 2]
         self.try_cuts(OLD, first_cut=first_cut)
         if FULL:
             self.try_cuts(OLD, first_cut=first_cut, damaged_after=True)

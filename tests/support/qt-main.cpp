@@ -1,4 +1,4 @@
-// Runs tests that need the toolkit: without a display, with the string table filled.
+// Runs tests that need Qt: without a display, with the string table filled.
 
 #include <gtest/gtest.h>
 

@@ -6,8 +6,8 @@
 #include "log.h"
 #include "support/temp-dir.h"
 
-/// A scratch home with a log of every component at its highest level. One at a time; the log ends
-/// with it.
+/// A scratch home, with a log that takes every level of every component. One at a time: the log is
+/// closed with it.
 struct TestHome {
   TestHome() {
     qputenv("HOME", folder.path.c_str());

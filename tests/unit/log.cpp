@@ -76,12 +76,11 @@ TEST(Config, ForgetsEverythingAtAMalformedLine) {
       "a=b\x7F\n",       "a=\x01\n", "[section]\n", "\xC3\xA9=1\n",
   };
   for (const char* text : texts) {
-    SCOPED_TRACE(text);
     Config config;
     config["before"] = "x";
     WriteFile(dir / "file", text);
-    EXPECT_EQ(config.read(dir / "file"), -1);
-    EXPECT_EQ(EntriesOf(config), Entries());
+    EXPECT_EQ(config.read(dir / "file"), -1) << text;
+    EXPECT_EQ(EntriesOf(config), Entries()) << text;
   }
 }
 

@@ -167,14 +167,15 @@ void CheckComparisons(const std::string& text, const std::string& other, size_t 
 
 void CheckTrimming(const std::string& text, const std::string& set) {
   const std::string left = text.substr(std::min(text.find_first_not_of(set), text.size()));
+  const std::string both = left.substr(0, left.find_last_not_of(set) + 1);
   ustring s(text);
   s.ltrim(ustring(set));
   EXPECT_EQ(s, left);
   s.rtrim(ustring(set));
-  EXPECT_EQ(s, left.substr(0, left.find_last_not_of(set) + 1));
-  ustring both(text);
-  both.trim(set.c_str());
-  EXPECT_EQ(both, s);
+  EXPECT_EQ(s, both);
+  s = text;
+  s.trim(set.c_str());
+  EXPECT_EQ(s, both);
 }
 
 void CheckParts(const std::string& text, size_t pos, size_t n) {

@@ -86,10 +86,10 @@ class LinkGuard {
   // What lies in a folder that is inside is inside itself, unless it is a link. This takes one
   // look, and LeadsInside() one for every folder on the way.
   bool IsInKnownFolder(const std::string& way) const {
-    if (inside_.count(ParentFolder(way)) == 0) return false;
     const size_t slash = way.rfind('/');
-    if (slash == std::string::npos || way.compare(slash, std::string::npos, "/..") == 0)
-      return false;
+    const bool isUp =
+        slash == std::string::npos || way.compare(slash, std::string::npos, "/..") == 0;
+    if (isUp || inside_.count(ParentFolder(way)) == 0) return false;
     struct stat info = {};
     return lstat(way.c_str(), &info) == 0 ? !S_ISLNK(info.st_mode) : errno == ENOENT;
   }
@@ -197,7 +197,9 @@ int CheckData(struct archive* reader) {
   size_t size = 0;
   la_int64_t offset = 0;
   int result = ARCHIVE_OK;
-  while (result == ARCHIVE_OK) result = archive_read_data_block(reader, &buffer, &size, &offset);
+  while (result == ARCHIVE_OK) {
+    result = archive_read_data_block(reader, &buffer, &size, &offset);
+  }
   return result == ARCHIVE_EOF ? ARCHIVE_OK : result;
 }
 
@@ -231,6 +233,7 @@ class Extraction {
                 "the directory at its end is missing");
       return -1;
     }
+    archive_write_close(writer_);  // some folders get their modes only now
     return IsForcedToDisk() ? 0 : -1;
   }
 
@@ -264,7 +267,8 @@ class Extraction {
   }
 
   // The last entry may be what says that all the others are there, so that it must be neither
-  // before them on the disk nor written at all when the archive is going to be refused.
+  // before them on the disk nor written at all when the archive is going to be refused. When it is
+  // the only one, there may be no folder yet.
   bool MayEnd(int number) {
     isCut_ = !HasItsDirectory(reader_, archive_);
     return number == 1 || isCut_ || IsForcedToDisk();
