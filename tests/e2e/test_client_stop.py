@@ -3,7 +3,6 @@
 import os
 import subprocess
 import time
-import unittest
 
 from support import ORDINARY_USER, alive
 from upgrade import INSTALLED, NEW, OLD, UpgradeCase
@@ -56,7 +55,3 @@ class ClientStop(UpgradeCase):
                 self.run_launcher(user=ORDINARY_USER)
                 self.assert_logged(MISSED, INSTALLED)
                 self.assertEqual(self.build_on_disk(), NEW)
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)

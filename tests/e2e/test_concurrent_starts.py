@@ -4,7 +4,6 @@ import os
 import pathlib
 import signal
 import time
-import unittest
 
 from support import FULL, NOBODY, ROOT, wait_for
 from sweep import Sweep, SweepCase
@@ -126,7 +125,3 @@ class LockFile(SweepCase):
     def test_a_missing_temporary_folder_locks_nobody_out(self):
         self.run_launcher(TMPDIR=self.folder / "missing")
         self.assert_client_runs(NEW)
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)

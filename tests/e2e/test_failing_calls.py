@@ -1,7 +1,6 @@
 """Calls into the system fail: a complete client runs all the same, and the next starts mend."""
 
 import errno
-import unittest
 
 from support import FULL
 from sweep import ERRORS, Sweep, SweepCase
@@ -42,7 +41,3 @@ class FailingCalls(SweepCase):
     def test_a_package_that_cannot_be_read(self):
         for mode in ("once", "always"):
             self.run_sweep(Sweep("open,read,fstat", mode, "lumivo.lvp", (errno.EIO,), step=2))
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)

@@ -55,7 +55,3 @@ class FullDisk(UpgradeCase):
         subprocess.run(["mount", "-o", "remount,bind,ro", image], check=True)
         self.run_launcher(bundle=image)
         self.assert_client_runs(NEW)
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)

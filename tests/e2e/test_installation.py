@@ -1,7 +1,6 @@
 """What a start makes of the installation when nothing goes wrong but, perhaps, the package."""
 
 import os
-import unittest
 
 from support import EXECUTABLE, Case, alive, tree
 
@@ -67,7 +66,3 @@ class Installation(Case):
         )
         self.assertEqual(self.clients(), [])
         self.install(OLD)
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)

@@ -1,7 +1,6 @@
 """The launcher is killed: the next start leaves a complete client, whatever was half done."""
 
 import random
-import unittest
 
 from support import FULL
 from sweep import Sweep, SweepCase
@@ -36,7 +35,3 @@ class Killed(SweepCase):
         self.run_sweep(
             Sweep("changes", "kill", numbers=sample[1::2], next_damage=damage_executable)
         )
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)

@@ -5,7 +5,6 @@ import pathlib
 import re
 import signal
 import sys
-import unittest
 
 from support import EXECUTABLE, Case
 
@@ -57,7 +56,3 @@ class StartedClient(Case):
                 environment = pathlib.Path(f"/proc/{client}/environ").read_text()
                 given = [f"{name}={text}" for name, text in self.environment(TZ=zone).items()]
                 self.assertCountEqual(environment.rstrip("\0").split("\0"), given)
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)

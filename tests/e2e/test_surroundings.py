@@ -3,7 +3,6 @@
 import dataclasses
 import os
 import re
-import unittest
 from typing import Optional
 
 from support import ORDINARY_USER, Case, tree
@@ -126,7 +125,3 @@ class UnusableHome(Case):
         self.assert_nothing_to_install_to(errors)
         installation.chmod(0o755)
         self.assert_installed(self.package(OLD).nodes)
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)

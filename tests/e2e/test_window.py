@@ -3,7 +3,6 @@
 import hashlib
 import os
 import subprocess
-import unittest
 
 from support import Case, alive, wait_for
 
@@ -81,7 +80,3 @@ class Window(Case):
         self.assertEqual(pictures["fi_FI"], pictures["en_US"], "both in English")
         self.assertNotEqual(pictures["de_DE"], pictures["en_US"], "German and English")
         self.assertNotEqual(pictures["fr_FR"], pictures["de_DE"], "French and German")
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)
