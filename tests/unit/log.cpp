@@ -190,6 +190,7 @@ TEST(Logger, WritesWarningsToStandardErrorBeforeInitialize) {
 TEST_F(LoggerTest, RotatesAfterTheLineThatCrossesTheLimit) {
   WriteFile(log, "x");  // what was there before does not count
   Open(1);
+  EXPECT_EQ(CountInherited(log), 0);
   Write(kLimit - 100);
   Write(100);
   EXPECT_EQ(CurrentSize(), 1 + kLimit);
