@@ -7,6 +7,9 @@ from packages import REALISTIC_BYTES
 
 SERIES = (1000, 3000, 10000, 30000, 100000)
 BOTH = ("wall", "cpu")
+# Run by bash, with a command and its arguments; the last one is the folder that it writes to.
+THEN_SYNC_FOLDER = ["bash", "-c", '"$@" && sync -f "${!#}"', "bash"]
+THEN_SYNC = ["bash", "-c", '"$@" && sync', "bash"]
 
 
 def extract(bench, archive):
@@ -56,6 +59,50 @@ def size(bench, ours, theirs):
     sizes = [os.path.getsize(path) for path in (ours, theirs)]
     shown = [f"{number / 1e6:.1f} MB" for number in sizes]
     bench.table.row("size of the package", "`zip -9`", *shown, [sizes[0] / sizes[1]], 0.85)
+
+
+def disk(bench):
+    """On the disk: what the write barriers cost, and others when they force as much to the disk."""
+    package = bench.packages.realistic()
+    packed = bench.packages.packed_by_others(package)
+    command = extract(bench, package / "lumivo.lvp")
+    unforced = bench.environment(LD_PRELOAD=str(bench.program("libbench-no-barrier.so")))
+    check_barriers(bench, extract(bench, bench.packages.small(SERIES[0]) / "lumivo.lvp"), unforced)
+
+    def without_barrier(arguments):
+        return run_step(arguments, unforced)
+
+    def compare(what, against, ours, theirs):
+        with Scratch("disk", bench.disk) as scratch:
+            contenders = {
+                side: scratch.into_new_folder(runner, arguments, 2 * REALISTIC_BYTES)
+                for side, (runner, arguments) in (("ours", ours), ("theirs", theirs))
+            }
+            bench.table.compare(what, against, bench.in_turn(**contenders), BOTH)
+
+    with_barrier, without = (run_step, command), (without_barrier, command)
+    bsdtar = ["bsdtar", "-xf", package / "lumivo.lvp", "-C"]
+    compare("upgrade, disk", "without the barrier", with_barrier, without)
+    compare("upgrade, disk", "`bsdtar -xf`, `sync`", with_barrier, (run, THEN_SYNC + bsdtar))
+    for name, other, _ in others(package, packed):
+        forced = (run, THEN_SYNC_FOLDER + other)
+        compare("upgrade, disk", f"{name}, `sync -f`", with_barrier, forced)
+    compare("upgrade without the barrier, disk", "`bsdtar -xf`", without, (run, bsdtar))
+
+
+def check_barriers(bench, command, unforced):
+    """A preloaded library that is not found, say, would go unnoticed in the figures."""
+    with Scratch("disk", bench.disk) as scratch:
+        for env, is_forced in ((bench.environment(), True), (unforced, False)):
+            trace = scratch.path / "trace"
+            # The program gets the library, strace does not.
+            variables = [f"--env={name}={value}" for name, value in env.items()]
+            strace = ["strace", "-f", "-qq", "--trace=syncfs", "-o", trace, *variables]
+            scratch.into_new_folder(run, [*strace, *command], 0)()
+            if ("syncfs(" in trace.read_text()) != is_forced:
+                raise SystemExit(
+                    f"bench: expected the barrier {'with' if is_forced else 'without'}"
+                )
 
 
 def entries(bench):
