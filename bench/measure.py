@@ -11,6 +11,7 @@ import pathlib
 import re
 import subprocess
 import sys
+import textwrap
 
 import harness
 import inside
@@ -65,21 +66,20 @@ def heading(options):
     cache = dict(
         re.findall(r"^(\w+):\w+=(.*)$", (options.build / "CMakeCache.txt").read_text(), re.M)
     )
-    arguments = sys.argv[sys.argv.index("--build") + 2 :]
+    command = ["scripts/bench", *sys.argv[sys.argv.index("--build") + 2 :]]
     compiler = output_of(cache["CMAKE_CXX_COMPILER"], "--version").splitlines()[0]
-    return "; ".join(
-        (
-            f"{datetime.date.today()}, `{' '.join(['scripts/bench', *arguments])}`",
-            f"{processor['model name']} (family {processor['cpu family']}, model "
-            f"{processor['model']}), {os.cpu_count()} processors",
-            f"Linux {os.uname().release}",
-            f"{harness.file_system_of(options.disk or options.build)} on the disk",
-            f"{compiler}, {cache['CMAKE_BUILD_TYPE']}",
-            f"Qt {output_of('pkg-config', '--modversion', 'Qt5Core').strip()}",
-            output_of("bsdtar", "--version").strip(),
-            " ".join(os.confstr("CS_GNU_LIBC_VERSION").split()),
-        )
+    facts = (
+        f"{datetime.date.today()}, `{' '.join(command)}`",
+        f"{processor['model name']} (family {processor['cpu family']}, model "
+        f"{processor['model']}), {os.cpu_count()} processors",
+        f"Linux {os.uname().release}",
+        f"disk: {harness.file_system_of(options.disk or options.build)}",
+        f"{compiler}, {cache['CMAKE_BUILD_TYPE']}",
+        f"Qt {output_of('pkg-config', '--modversion', 'Qt5Core').strip()}",
+        output_of("bsdtar", "--version").strip(),
+        " ".join(os.confstr("CS_GNU_LIBC_VERSION").split()),
     )
+    return "\n".join(textwrap.wrap("; ".join(facts), 118, break_on_hyphens=False)) + "."
 
 
 def arguments():

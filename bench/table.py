@@ -14,7 +14,8 @@ PER_SECOND = {"ms": 1e3, "µs": 1e6, "ns": 1e9}
 def shown(seconds):
     """Several times in one unit: "994 / 992 ms"."""
     unit = next(unit for least, unit in UNITS if seconds[0] >= least)
-    return " / ".join(f"{value * PER_SECOND[unit]:.4g}" for value in seconds) + f" {unit}"
+    numbers = [value * PER_SECOND[unit] for value in seconds]
+    return " / ".join(f"{n:.0f}" if n >= 1000 else f"{n:.4g}" for n in numbers) + f" {unit}"
 
 
 class Table:

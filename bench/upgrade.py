@@ -63,11 +63,12 @@ def size(bench, ours, theirs):
 
 def disk(bench):
     """On the disk: what the write barriers cost, and others when they force as much to the disk."""
-    package = bench.packages.realistic()
+    small = bench.packages.small(SERIES[0])
+    package = small if bench.quick else bench.packages.realistic()
     packed = bench.packages.packed_by_others(package)
     command = extract(bench, package / "lumivo.lvp")
     unforced = bench.environment(LD_PRELOAD=str(bench.program("libbench-no-barrier.so")))
-    check_barriers(bench, extract(bench, bench.packages.small(SERIES[0]) / "lumivo.lvp"), unforced)
+    check_barriers(bench, extract(bench, small / "lumivo.lvp"), unforced)
 
     def without_barrier(arguments):
         return run_step(arguments, unforced)
