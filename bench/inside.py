@@ -32,8 +32,10 @@ def run_parts(bench, folder, names):
         "--benchmark_format=json",
     ]
     output = run(command, bench.environment(LUMIVO_BENCH_FOLDER=str(folder))).output
+    results = json.loads(output)["benchmarks"]
     pairs = {}
-    for result in json.loads(output)["benchmarks"]:
+    # They come in the order in which they ran, a random one.
+    for result in sorted(results, key=lambda result: result["family_index"]):
         if result["run_type"] == "iteration":
             name, side = result["run_name"].rsplit("/", 1)
             costs = pairs.setdefault(name, {}).setdefault(side, [])

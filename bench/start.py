@@ -123,5 +123,5 @@ def under_valgrind(bench, commands, env, home):
         ("instructions of a start, offscreen", "callgrind", "totals: ", 10**6, " M"),
         ("heap of a start at its peak, offscreen", "massif", "mem_heap_B=", 1024, " KiB"),
     ):
-        numbers = [measured(tool, line_start, name) // divisor for name in ("ours", SAME)]
-        bench.table.numbers(what, SAME, *numbers, unit)
+        numbers = [measured(tool, line_start, name) for name in ("ours", SAME)]
+        bench.table.numbers(what, SAME, *numbers, divisor, unit)

@@ -36,9 +36,10 @@ class Table:
         limit = "" if bound is None else f"{bound:g}{unit}" + (", MISSED" if is_missed else "")
         self.cells(what, against, ours, theirs, ratio, limit)
 
-    def numbers(self, what, against, ours, theirs, unit=""):
-        """Two plain numbers and their ratio."""
-        self.row(what, against, f"{ours}{unit}", f"{theirs}{unit}", [ours / theirs])
+    def numbers(self, what, against, ours, theirs, divisor=1, unit=""):
+        """Two plain numbers and their ratio; a unit is `divisor` of them."""
+        shown_numbers = [f"{number // divisor}{unit}" for number in (ours, theirs)]
+        self.row(what, against, *shown_numbers, [ours / theirs])
 
     def compare(self, what, against, costs, kinds=("wall",), bound=None, sides=("ours", "theirs")):
         """Medians of both sides, and the median of the ratios; the bound is for every kind."""
