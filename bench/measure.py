@@ -10,6 +10,7 @@ import contextlib
 import json
 import os
 import pathlib
+import plistlib
 import random
 import shutil
 import statistics
@@ -118,7 +119,7 @@ class Bench:
     def __init__(self, options):
         self.build, self.quick = pathlib.Path(options.build).resolve(), options.quick
         self.count = options.rounds or (3 if self.quick else 9)
-        self.packages = self.build / "bench/packages"
+        self.packages = self.build / "bench/zstandard-packages"
         self.table = Table()
 
     def program(self, name):
@@ -133,7 +134,7 @@ class Bench:
             yield {"memory": pathlib.Path(memory), "disc": pathlib.Path(disc)}
 
     def package(self, name, fill):
-        """The folder of a package of the tree that `fill` makes, with the tree as a tar.gz; kept between runs."""
+        """The folder of a package of the tree that `fill` makes; kept between runs."""
         out = self.packages / name
         if not out.exists():
             self.packages.mkdir(parents=True, exist_ok=True)
@@ -141,6 +142,8 @@ class Bench:
                 app, made = pathlib.Path(work, "app"), pathlib.Path(work, "made")
                 (app / "Contents/MacOS").mkdir(parents=True)
                 shutil.copy(self.program("bench-client"), app / "Contents/MacOS/lumivo-drive-ui")
+                plist = {"CFBundleExecutable": "lumivo-drive-ui"}
+                (app / "Contents/Info.plist").write_bytes(plistlib.dumps(plist))
                 fill(app / "Contents")
                 subprocess.run(
                     [
@@ -155,9 +158,25 @@ class Bench:
                     check=True,
                     stdout=sys.stderr,
                 )
-                subprocess.run(["tar", "-C", app, "-czf", made / "tree.tar.gz", "."], check=True)
                 made.rename(out)
         return out
+
+    @staticmethod
+    def peers_of(package):
+        """A folder with the package's tree as it is, and as other tools pack it; kept as well."""
+        peers, work = package / "peers", package / "unfinished"
+        if not peers.exists():
+            shutil.rmtree(work, ignore_errors=True)
+            tree = work / "tree"
+            tree.mkdir(parents=True)
+            for command in (
+                ["bsdtar", "-xf", package / "lumivo.lvp"],
+                ["zip", "-q", "-9", "-X", "-y", "-r", work / "tree.zip", "."],
+                ["tar", "--zstd", "-cf", work / "tree.tar.zst", "."],
+            ):
+                subprocess.run(command, cwd=tree, check=True)
+            work.rename(peers)
+        return peers
 
     def fill_realistic(self, contents):
         """Libraries with their links, executables, and small files in many folders, all from this machine."""
@@ -208,12 +227,16 @@ class Bench:
 
     def extraction(self):
         package = self.package("realistic", self.fill_realistic)
-        archive, tar = package / "lumivo.lvp", package / "tree.tar.gz"
+        archive, others = package / "lumivo.lvp", self.peers_of(package)
         peers = (
-            ("`bsdtar -xf`", ["bsdtar", "-xf", archive, "-C"], 0.95),
-            ("`unzip -q`", ["unzip", "-q", archive, "-d"], 0.7),
-            ("`tar xf`, tar.gz", ["tar", "xf", tar, "-C"], 0.7),
+            ("`bsdtar -xf`", ["bsdtar", "-xf", archive, "-C"], 1.0),
+            ("`unzip -q`, `zip -9`", ["unzip", "-q", others / "tree.zip", "-d"], 0.4),
+            ("`tar --zstd -xf`", ["tar", "--zstd", "-xf", others / "tree.tar.zst", "-C"], 1.0),
+            ("`cp -a`", ["cp", "-a", f"{others}/tree/."], None),
         )
+        sizes = [os.path.getsize(path) for path in (archive, others / "tree.zip")]
+        megabytes = [f"{size / 1e6:.1f} MB" for size in sizes]
+        self.table.row("package", "`zip -9`", *megabytes, sizes[0] / sizes[1], 0.85)
         with self.media() as media:
             for medium, scratch in media.items():
                 ours = self.into_new_folder(

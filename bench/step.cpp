@@ -13,7 +13,7 @@
 
 #include "extractor.h"
 #include "file/file-op.h"
-#include "mac/launch-services.h"
+#include "own-time-zone.h"
 
 namespace {
 
@@ -53,7 +53,7 @@ int main(int argc, char** argv) {
     fprintf(stderr, "usage: bench-step count|extract|copy SOURCE DESTINATION\n");
     return 2;
   }
-  setenv("TZ", kOwnTimeZone, 0);  // as the launcher does
+  SetOwnTimeZone();
   // The extractor reports progress through objects that belong to an application.
   QCoreApplication app(argc, argv);
   ForgetPeak();

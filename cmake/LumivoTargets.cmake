@@ -1,4 +1,5 @@
-# How every target of this tree is made: C++17, our warnings, one source file per host where a layer hides one.
+# How every target of this tree is made: C++17, our warnings, one source file per host where a layer
+# hides one.
 
 include_guard(GLOBAL)
 
@@ -9,7 +10,7 @@ function(lumivo_defaults target)
                                            -Woverloaded-virtual -Wformat=2 $<$<BOOL:${LUMIVO_WERROR}>:-Werror>)
 endfunction()
 
-# lumivo_qt(TARGET): the toolkit's strict definitions and its code generators.
+# lumivo_qt(TARGET): Qt's strict definitions and its code generators.
 function(lumivo_qt target)
   set_target_properties(${target} PROPERTIES AUTOMOC ON AUTORCC ON)
   target_compile_definitions(
@@ -17,15 +18,24 @@ function(lumivo_qt target)
                       QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS)
 endfunction()
 
-# lumivo_library(TARGET ALIAS SOURCE...): a static library Lumivo::ALIAS.
+# lumivo_library(TARGET ALIAS [QT] SOURCE...): a static library Lumivo::ALIAS. With QT it is one of
+# the interface's, whose headers lie beside its sources; the headers of the others lie in include/.
 function(lumivo_library target alias)
-  add_library(${target} STATIC ${ARGN})
+  cmake_parse_arguments(PARSE_ARGV 2 arg "QT" "" "")
+  add_library(${target} STATIC ${arg_UNPARSED_ARGUMENTS})
   add_library(Lumivo::${alias} ALIAS ${target})
   lumivo_defaults(${target})
+  set_target_properties(${target} PROPERTIES OUTPUT_NAME ${alias})
+  if(arg_QT)
+    lumivo_qt(${target})
+    target_include_directories(${target} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+  else()
+    target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}/include")
+  endif()
 endfunction()
 
-# lumivo_host_source(TARGET BASE): adds BASE-mac.cpp on macOS, elsewhere BASE-linux.cpp where there is one, or else
-# BASE-posix.cpp.
+# lumivo_host_source(TARGET BASE): adds BASE-mac.cpp on macOS, elsewhere BASE-linux.cpp where there
+# is one, or else BASE-posix.cpp.
 function(lumivo_host_source target base)
   set(host posix)
   if(APPLE)

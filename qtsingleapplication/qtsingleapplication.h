@@ -14,9 +14,8 @@ class QLockFile;
 /// The guard is a lock file in the temporary folder, held through the kernel as well as by the
 /// process id written in it: what a crashed holder leaves behind never blocks the next start, even
 /// when its process id belongs to another process by then. Anybody may write into that folder, so a
-/// lock file that is not a plain file of this user's, or that cannot be made, counts for nothing;
-/// then a local socket of the same name takes its place, and where that fails too the application
-/// runs. It may run twice before it is locked out.
+/// lock file that cannot be made, or that is not a plain file of this user's, is ignored. Running
+/// twice is preferred to being locked out.
 class QtSingleApplication : public QApplication {
   Q_OBJECT
 
@@ -34,13 +33,10 @@ class QtSingleApplication : public QApplication {
   bool isRunning();
 
  private:
-  enum class Lock { kTaken, kHeldElsewhere, kUnusable };
-
-  Lock TakeLock();
-  bool TakeSocket();
+  /// False when another instance holds the lock; true also when the lock cannot be used.
+  bool TakeLock();
 
   const QString guardPath_;
   std::unique_ptr<QLockFile> lock_;
-  int socket_ = -1;  // listens while it stands for the lock
   bool isPrimary_ = false;
 };

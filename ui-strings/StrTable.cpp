@@ -65,11 +65,10 @@ void InitStrTable() {
   Row(23, "title_ssl_warning", QT_TRANSLATE_NOOP("global", "Certificate warning"));
   Row(24, "tray_setinfo", QT_TRANSLATE_NOOP("global", "Change connection settings"));
   Row(25, "msg_test_connect", QT_TRANSLATE_NOOP("global", "Testing the connection..."));
-  Row(26, "msi_exit_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(26, "msi_exit_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(27, "today", QT_TRANSLATE_NOOP("global", "Today"));
   Row(28, "msi_ready_dlg_description",
-      QT_TRANSLATE_NOOP("global",
-                        "The setup program is ready to install Lumivo Drive on this computer."));
+      QT_TRANSLATE_NOOP("global", "Setup is ready to install Lumivo Drive on this computer."));
   Row(29, "notify_new_share_short", QT_TRANSLATE_NOOP("global", "New shared folder"));
   Row(30, "no_valid_folder",
       QT_TRANSLATE_NOOP(
@@ -95,7 +94,7 @@ void InitStrTable() {
   Row(40, "err_invalid_port_number",
       QT_TRANSLATE_NOOP("global", "Enter a port number from 1 to 65535."));
   Row(41, "quick_mode_open_folder_btn", QT_TRANSLATE_NOOP("global", "Open sync folder"));
-  Row(42, "msi_exit_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Lumivo Drive was installed"));
+  Row(42, "msi_exit_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Lumivo Drive has been installed"));
   Row(43, "action_unlink", QT_TRANSLATE_NOOP("global", "Unlink"));
   Row(44, "err_share_folder_conflict",
       QT_TRANSLATE_NOOP(
@@ -103,18 +102,18 @@ void InitStrTable() {
           "This folder overlaps with the folder of another sync task. Select another folder."));
   Row(45, "wizard_network_err_sync_folder_warning",
       QT_TRANSLATE_NOOP("global",
-                        "The folders of your server could not be listed. Check your network "
+                        "The folders on your server could not be listed. Check your network "
                         "connection and try again."));
   Row(46, "status_desc_abnormal_short", QT_TRANSLATE_NOOP("global", "Needs attention"));
   Row(47, "err_ssl_change",
-      QT_TRANSLATE_NOOP(
-          "global", "The certificate of your server has changed. Check it before you continue."));
+      QT_TRANSLATE_NOOP("global",
+                        "Your server's certificate has changed. Check it before you continue."));
   Row(48, "last_page", QT_TRANSLATE_NOOP("global", "Last page"));
   Row(49, "msg_running", QT_TRANSLATE_NOOP("global", "Running"));
   Row(50, "month_jun", QT_TRANSLATE_NOOP("global", "June"));
   Row(51, "upgrade_failed", QT_TRANSLATE_NOOP("global", "The update failed. Try again later."));
   Row(52, "status_desc_ssl_verify_fail",
-      QT_TRANSLATE_NOOP("global", "The certificate of your server could not be verified."));
+      QT_TRANSLATE_NOOP("global", "Your server's certificate could not be verified."));
   Row(53, "msi_progress_dlg_text",
       QT_TRANSLATE_NOOP("global", "Please wait. This may take several minutes."));
   Row(54, "msi_maintenance_dlg_change_tooltip",
@@ -123,23 +122,22 @@ void InitStrTable() {
   Row(56, "context_menu_resume_folders", QT_TRANSLATE_NOOP("global", "Sync these folders again"));
   Row(57, "msg_localdiskfull",
       QT_TRANSLATE_NOOP("global",
-                        "The disk of this computer is full. Free some space to continue syncing."));
+                        "This computer's disk is full. Free up some space to continue syncing."));
   Row(58, "manage_option_use_black_white_icon",
-      QT_TRANSLATE_NOOP("global", "Use a black and white tray icon"));
+      QT_TRANSLATE_NOOP("global", "Use a black-and-white tray icon"));
   Row(59, "common_forminvalid",
       QT_TRANSLATE_NOOP("global",
                         "Some fields are not filled in correctly. Correct them and try again."));
   Row(60, "msi_userexit_dlg_description1",
-      QT_TRANSLATE_NOOP("global",
-                        "The setup was interrupted. Your computer has not been changed."));
+      QT_TRANSLATE_NOOP("global", "Setup was interrupted. Your computer has not been changed."));
   Row(61, "err_share_nonexist_short", QT_TRANSLATE_NOOP("global", "Folder not found"));
-  Row(62, "msi_readyrepair_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(62, "msi_readyrepair_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(63, "status_desc_pause", QT_TRANSLATE_NOOP("global", "Paused"));
   Row(64, "wizard_set_sync_folder", QT_TRANSLATE_NOOP("global", "Choose the folders to sync"));
   Row(65, "del", QT_TRANSLATE_NOOP("global", "Delete"));
   Row(66, "advan_mode_set_share_folder_info",
       QT_TRANSLATE_NOOP("global",
-                        "Choose a folder on your server and the local folder that it syncs with."));
+                        "Choose a folder on your server and the local folder to sync it with."));
   Row(67, "col_file_status", QT_TRANSLATE_NOOP("global", "Status"));
   Row(68, "block_point_prefix",
       QT_TRANSLATE_NOOP("global", "Skip files and folders whose names start with a dot"));
@@ -152,7 +150,7 @@ void InitStrTable() {
       QT_TRANSLATE_NOOP(
           "global", "This address belongs to another server. Check the address and try again."));
   Row(73, "history_file_type", QT_TRANSLATE_NOOP("global", "File type"));
-  Row(74, "wizard_setup_mode_page_title", QT_TRANSLATE_NOOP("global", "Choose how to set up"));
+  Row(74, "wizard_setup_mode_page_title", QT_TRANSLATE_NOOP("global", "Choose a setup type"));
   Row(75, "monday", QT_TRANSLATE_NOOP("global", "Monday"));
   Row(76, "wizard_quotafull_sync_folder_warning",
       QT_TRANSLATE_NOOP("global",
@@ -172,18 +170,19 @@ void InitStrTable() {
       QT_TRANSLATE_NOOP("global", "Keep both versions and rename the local one"));
   Row(84, "manage_option_language", QT_TRANSLATE_NOOP("global", "Language"));
   Row(85, "notify_abnormal",
-      QT_TRANSLATE_NOOP("global", "Syncing of \"%1\" has stopped. Open Lumivo Drive for details."));
+      QT_TRANSLATE_NOOP("global", "\"%1\" has stopped syncing. Open Lumivo Drive for details."));
   Row(86, "history_reset", QT_TRANSLATE_NOOP("global", "Reset"));
   Row(87, "title_id", QT_TRANSLATE_NOOP("global", "ZephLink ID"));
   Row(88, "sync_direction_mismatch",
       QT_TRANSLATE_NOOP("global",
-                        "The sync direction does not match the permissions of this folder. Choose "
-                        "another direction."));
+                        "The sync direction does not match your permissions for this folder. "
+                        "Choose another direction."));
   Row(89, "quick_mode_finish_page_more_detail", QT_TRANSLATE_NOOP("global", "More details"));
   Row(90, "month_oct", QT_TRANSLATE_NOOP("global", "October"));
   Row(91, "month_feb", QT_TRANSLATE_NOOP("global", "February"));
   Row(92, "status_desc_errversion_server",
-      QT_TRANSLATE_NOOP("global", "Lumivo Drive Server is too old. Update it on your server."));
+      QT_TRANSLATE_NOOP(
+          "global", "This version of Lumivo Drive Server is too old. Update it on your server."));
   Row(93, "manage_sync_tab_name", QT_TRANSLATE_NOOP("global", "Sync rules"));
   Row(94, "desc_cannot_download",
       QT_TRANSLATE_NOOP("global",
@@ -202,19 +201,19 @@ void InitStrTable() {
   Row(104, "history_page_title", QT_TRANSLATE_NOOP("global", "History"));
   Row(105, "yes", QT_TRANSLATE_NOOP("global", "Yes"));
   Row(106, "version", QT_TRANSLATE_NOOP("global", "Version"));
-  Row(107, "msi_userexit_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(107, "msi_userexit_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(108, "read_only", QT_TRANSLATE_NOOP("global", "Read-only"));
   Row(109, "month_apr", QT_TRANSLATE_NOOP("global", "April"));
   Row(110, "network_management_page_btn", QT_TRANSLATE_NOOP("global", "Network settings"));
   Row(111, "msi_progress_dlg_description",
-      QT_TRANSLATE_NOOP("global", "The setup program is applying your choices."));
+      QT_TRANSLATE_NOOP("global", "Setup is applying your choices."));
   Row(112, "selective_sync_remove_msg",
       QT_TRANSLATE_NOOP("global",
-                        "Folders that you clear here will be removed from this computer. They stay "
-                        "on your server."));
+                        "Folders that you deselect here will be removed from this computer. They "
+                        "will remain on your server."));
   Row(113, "msg_diskfull",
       QT_TRANSLATE_NOOP(
-          "global", "The disk of your server is full. Free some space on it to continue syncing."));
+          "global", "Your server's disk is full. Free up some space on it to continue syncing."));
   Row(114, "btn_help", QT_TRANSLATE_NOOP("global", "Help"));
   Row(115, "msg_download_fail",
       QT_TRANSLATE_NOOP("global",
@@ -222,19 +221,19 @@ void InitStrTable() {
   Row(116, "app_name", QT_TRANSLATE_NOOP("global", "Lumivo Drive"));
   Row(117, "sharing_apply_and_copy_button", QT_TRANSLATE_NOOP("global", "Save and copy link"));
   Row(118, "msg_info_description",
-      QT_TRANSLATE_NOOP("global", "Enter the address of your server and your account."));
-  Row(119, "wizard_welcome_title", QT_TRANSLATE_NOOP("global", "Let us get started"));
+      QT_TRANSLATE_NOOP("global", "Enter your server's address and your account details."));
+  Row(119, "wizard_welcome_title", QT_TRANSLATE_NOOP("global", "Let's get started"));
   Row(120, "manage_setting_no_change",
       QT_TRANSLATE_NOOP("global", "There are no changes to save."));
   Row(121, "prev_x_pages", QT_TRANSLATE_NOOP("global", "Previous %1 pages"));
   Row(122, "msi_fatalerror_dlg_description2",
-      QT_TRANSLATE_NOOP("global", "To install Lumivo Drive later, run the setup program again."));
+      QT_TRANSLATE_NOOP("global", "To install Lumivo Drive later, run Setup again."));
   Row(123, "tutorial_third_desc",
       QT_TRANSLATE_NOOP(
           "global",
           "Right-click a file in a synced folder to share it or to see its earlier versions."));
   Row(124, "history_yesterday", QT_TRANSLATE_NOOP("global", "Yesterday"));
-  Row(125, "msi_error_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(125, "msi_error_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(126, "title_status_info", QT_TRANSLATE_NOOP("global", "Status information"));
   Row(127, "err_init_failed",
       QT_TRANSLATE_NOOP("global",
@@ -252,7 +251,7 @@ void InitStrTable() {
   Row(133, "msi_ready_dlg_text",
       QT_TRANSLATE_NOOP("global",
                         "Click Install to begin. Click Back to review or change your choices. "
-                        "Click Cancel to leave the setup."));
+                        "Click Cancel to exit Setup."));
   Row(134, "err_common", QT_TRANSLATE_NOOP("global", "Something went wrong. Try again later."));
   Row(135, "msi_eula_dlg_accept",
       QT_TRANSLATE_NOOP("global", "I accept the terms of the license agreement"));
@@ -261,7 +260,7 @@ void InitStrTable() {
                         "Selective sync is not available yet. Update Lumivo Drive Server on your "
                         "server to use it."));
   Row(137, "history_rename", QT_TRANSLATE_NOOP("global", "Renamed"));
-  Row(138, "msi_fatalerror_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(138, "msi_fatalerror_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(139, "title_folder_readonly", QT_TRANSLATE_NOOP("global", "This folder is read-only"));
   Row(140, "msi_button_cancel", QT_TRANSLATE_NOOP("global", "Cancel"));
   Row(141, "msi_readyremove_dlg_subtitle",
@@ -271,28 +270,28 @@ void InitStrTable() {
   Row(143, "history_upload", QT_TRANSLATE_NOOP("global", "Uploaded"));
   Row(144, "err_auth_wipe",
       QT_TRANSLATE_NOOP("global",
-                        "Your access was revoked and the synced files were removed from this "
+                        "Your access was revoked, and the synced files were removed from this "
                         "computer. Contact your administrator."));
   Row(145, "title_standby", QT_TRANSLATE_NOOP("global", "Standby"));
   Row(146, "msi_button_ok", QT_TRANSLATE_NOOP("global", "OK"));
   Row(147, "label_uploading", QT_TRANSLATE_NOOP("global", "Uploading..."));
-  Row(148, "msi_filesinuse_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(148, "msi_filesinuse_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(149, "msi_button_yes", QT_TRANSLATE_NOOP("global", "Yes"));
-  Row(150, "manage_setting_applying", QT_TRANSLATE_NOOP("global", "Applying the settings..."));
+  Row(150, "manage_setting_applying", QT_TRANSLATE_NOOP("global", "Applying settings..."));
   Row(151, "msi_eula_dlg_description",
       QT_TRANSLATE_NOOP("global", "Please read the following license agreement carefully."));
   Row(152, "manage_option_merge_mode", QT_TRANSLATE_NOOP("global", "Merge mode"));
   Row(153, "context_menu_filter_folders", QT_TRANSLATE_NOOP("global", "Do not sync these folders"));
-  Row(154, "msi_maintenance_welcome_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(154, "msi_maintenance_welcome_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(155, "msi_button_exit", QT_TRANSLATE_NOOP("global", "Exit"));
   Row(156, "msi_readyrepair_dlg_text",
-      QT_TRANSLATE_NOOP("global",
-                        "Click Repair to begin. Click Back to review your choice. Click Cancel to "
-                        "leave the setup."));
+      QT_TRANSLATE_NOOP(
+          "global",
+          "Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup."));
   Row(157, "msg_folder_readonly",
       QT_TRANSLATE_NOOP(
           "global",
-          "You cannot write to this folder. Select another folder or change its permissions."));
+          "You cannot write to this folder. Change its permissions or select another folder."));
   Row(158, "selective_sync_mode_title", QT_TRANSLATE_NOOP("global", "Selective sync"));
   Row(159, "manage_proxy_label_username", QT_TRANSLATE_NOOP("global", "Username"));
   Row(160, "month_dec", QT_TRANSLATE_NOOP("global", "December"));
@@ -322,13 +321,13 @@ void InitStrTable() {
   Row(175, "btn_cancel", QT_TRANSLATE_NOOP("global", "Cancel"));
   Row(176, "msg_upgrading", QT_TRANSLATE_NOOP("global", "Updating..."));
   Row(177, "sharing_customize_duration", QT_TRANSLATE_NOOP("global", "Custom period"));
-  Row(178, "tutorial_second_title", QT_TRANSLATE_NOOP("global", "Watch the status"));
+  Row(178, "tutorial_second_title", QT_TRANSLATE_NOOP("global", "Check the sync status"));
   Row(179, "loading", QT_TRANSLATE_NOOP("global", "Loading..."));
   Row(180, "desc_inactive", QT_TRANSLATE_NOOP("global", "Inactive"));
   Row(181, "history_file", QT_TRANSLATE_NOOP("global", "File"));
   Row(182, "msi_filesinuse_dlg_text",
-      QT_TRANSLATE_NOOP(
-          "global", "The following applications use files that the setup program has to update:"));
+      QT_TRANSLATE_NOOP("global",
+                        "The following applications are using files that Setup needs to update:"));
   Row(183, "title_open_lumivo", QT_TRANSLATE_NOOP("global", "Open Lumivo Drive"));
   Row(184, "wizard_setup_advan_mode_desc",
       QT_TRANSLATE_NOOP("global",
@@ -343,7 +342,7 @@ void InitStrTable() {
   Row(188, "title_upgrade", QT_TRANSLATE_NOOP("global", "Update Lumivo Drive"));
   Row(189, "more_tutorial", QT_TRANSLATE_NOOP("global", "Learn more"));
   Row(190, "col_create_time", QT_TRANSLATE_NOOP("global", "Created"));
-  Row(191, "msi_maintenance_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(191, "msi_maintenance_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(192, "wizard_welcome_desc",
       QT_TRANSLATE_NOOP("global", "Keep the files on this computer and on your server in sync."));
   Row(193, "msi_button_back", QT_TRANSLATE_NOOP("global", "Back"));
@@ -361,8 +360,8 @@ void InitStrTable() {
           "global", "The server did not accept the request. Check your entries and try again."));
   Row(200, "err_version_server",
       QT_TRANSLATE_NOOP("global",
-                        "Lumivo Drive Server is too old for this computer. Update it on your "
-                        "server to version %1 or later."));
+                        "This version of Lumivo Drive Server is too old for Lumivo Drive on this "
+                        "computer. Update it on your server to version %1 or later."));
   Row(201, "context_menu_sendto_prefix", QT_TRANSLATE_NOOP("global", "Send to"));
   Row(202, "err_autoconn_sys",
       QT_TRANSLATE_NOOP("global", "The ZephLink service reported an error. Try again later."));
@@ -379,11 +378,11 @@ void InitStrTable() {
           "computer will be kept."));
   Row(206, "wizard_conflict_backup_warning",
       QT_TRANSLATE_NOOP("global", "This folder is used by a backup task. Select another folder."));
-  Row(207, "msi_cancel_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(207, "msi_cancel_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(208, "status_desc_localdisk_full",
-      QT_TRANSLATE_NOOP("global", "The disk of this computer is full."));
+      QT_TRANSLATE_NOOP("global", "This computer's disk is full."));
   Row(209, "title_folder_nonempty", QT_TRANSLATE_NOOP("global", "This folder is not empty"));
-  Row(210, "msi_readyremove_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(210, "msi_readyremove_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(211, "open_contain_folder", QT_TRANSLATE_NOOP("global", "Open containing folder"));
   Row(212, "title_conn_mode", QT_TRANSLATE_NOOP("global", "Connection type"));
   Row(213, "err_autoconn_invalidid",
@@ -406,7 +405,7 @@ void InitStrTable() {
   Row(222, "label_locked_file", QT_TRANSLATE_NOOP("global", "Locked file"));
   Row(223, "msi_filesinuse_dlg_closenone",
       QT_TRANSLATE_NOOP(
-          "global", "Do not close the applications (the computer has to be restarted afterwards)"));
+          "global", "Do not close the applications (you will have to restart the computer later)"));
   Row(224, "tray_about", QT_TRANSLATE_NOOP("global", "About Lumivo Drive"));
   Row(225, "err_fxmdisable_short", QT_TRANSLATE_NOOP("global", "File service off"));
   Row(226, "next_x_pages", QT_TRANSLATE_NOOP("global", "Next %1 pages"));
@@ -418,15 +417,14 @@ void InitStrTable() {
       QT_TRANSLATE_NOOP("global",
                         "This file cannot be shared. Check your permissions on the server."));
   Row(229, "session_resume_btn", QT_TRANSLATE_NOOP("global", "Resume"));
-  Row(230, "msi_exit_dlg_description",
-      QT_TRANSLATE_NOOP("global", "Click Finish to leave the setup."));
+  Row(230, "msi_exit_dlg_description", QT_TRANSLATE_NOOP("global", "Click Finish to exit Setup."));
   Row(231, "wizard_setup_advan_mode_title", QT_TRANSLATE_NOOP("global", "Advanced setup"));
   Row(232, "title_name", QT_TRANSLATE_NOOP("global", "Name"));
   Row(233, "sharing_exp_after", QT_TRANSLATE_NOOP("global", "Expires after"));
   Row(234, "pause_connection", QT_TRANSLATE_NOOP("global", "Pause this connection"));
   Row(235, "msg_share_bubble_suffix", QT_TRANSLATE_NOOP("global", "has been shared with you."));
   Row(236, "msi_filesinuse_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Files in use"));
-  Row(237, "msi_fatalerror_dlg_subtitle", QT_TRANSLATE_NOOP("global", "The setup ended too early"));
+  Row(237, "msi_fatalerror_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Setup ended prematurely"));
   Row(238, "err_zephlink_file_sharing",
       QT_TRANSLATE_NOOP("global",
                         "File sharing through ZephLink is turned off on your server. Ask your "
@@ -440,10 +438,9 @@ void InitStrTable() {
   Row(244, "wizard_setup_repeat_warning_desc",
       QT_TRANSLATE_NOOP("global",
                         "This folder on your server is already synced with this computer.\\nA "
-                        "second sync task for it "
-                        "takes up disk space twice."));
+                        "second sync task for it would take up twice the disk space."));
   Row(245, "title_usr", QT_TRANSLATE_NOOP("global", "Username"));
-  Row(246, "msi_userexit_dlg_subtitle", QT_TRANSLATE_NOOP("global", "The setup was interrupted"));
+  Row(246, "msi_userexit_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Setup was interrupted"));
   Row(247, "err_otp_invalid",
       QT_TRANSLATE_NOOP(
           "global", "The verification code is incorrect. Enter the current code and try again."));
@@ -455,14 +452,14 @@ void InitStrTable() {
   Row(253, "err_ip_not_allowed",
       QT_TRANSLATE_NOOP(
           "global",
-          "Your server blocks the address of this computer. Ask your administrator to allow it."));
+          "Your server is blocking this computer's address. Ask your administrator to allow it."));
   Row(254, "session_unlink_btn", QT_TRANSLATE_NOOP("global", "Unlink"));
   Row(255, "msg_checkpass", QT_TRANSLATE_NOOP("global", "Checking your username and password..."));
   Row(256, "msi_button_print", QT_TRANSLATE_NOOP("global", "Print"));
   Row(257, "msi_welcome_dlg_subtitle",
-      QT_TRANSLATE_NOOP("global", "Welcome to the setup of Lumivo Drive"));
+      QT_TRANSLATE_NOOP("global", "Welcome to Lumivo Drive Setup"));
   Row(258, "common_maxlengthtext",
-      QT_TRANSLATE_NOOP("global", "The maximum length of this field is %1."));
+      QT_TRANSLATE_NOOP("global", "Enter no more than %1 characters."));
   Row(259, "btn_merge", QT_TRANSLATE_NOOP("global", "Merge"));
   Row(260, "selective_enable_entire_attribute_check",
       QT_TRANSLATE_NOOP("global", "Sync all file attributes and permissions"));
@@ -477,15 +474,14 @@ void InitStrTable() {
       QT_TRANSLATE_NOOP("global",
                         "Everything that you put into your sync folder appears on your server and "
                         "on your other computers."));
-  Row(266, "msi_ready_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(266, "msi_ready_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(267, "msi_maintenance_welcome_dlg_description",
       QT_TRANSLATE_NOOP(
-          "global",
-          "The setup program can change, repair or remove Lumivo Drive. Click Next to continue."));
+          "global", "Setup can change, repair or remove Lumivo Drive. Click Next to continue."));
   Row(268, "wizard_set_sync_folder_desc",
       QT_TRANSLATE_NOOP("global", "Select a folder on your server and a folder on this computer."));
   Row(269, "err_proxy_ipport_empty",
-      QT_TRANSLATE_NOOP("global", "Enter the address and the port of the proxy server."));
+      QT_TRANSLATE_NOOP("global", "Enter the address and port of the proxy server."));
   Row(270, "msg_catchevent", QT_TRANSLATE_NOOP("global", "Watching for changes..."));
   Row(271, "msi_maintenance_dlg_change_label", QT_TRANSLATE_NOOP("global", "Change"));
   Row(272, "management_proxy_apply_btn", QT_TRANSLATE_NOOP("global", "Apply"));
@@ -502,7 +498,7 @@ void InitStrTable() {
   Row(279, "main_sync_task", QT_TRANSLATE_NOOP("global", "Sync tasks"));
   Row(280, "msi_readyrepair_dlg_subtitle",
       QT_TRANSLATE_NOOP("global", "Ready to repair Lumivo Drive"));
-  Row(281, "block_file_table_title", QT_TRANSLATE_NOOP("global", "Filtered files"));
+  Row(281, "block_file_table_title", QT_TRANSLATE_NOOP("global", "Skipped files"));
   Row(282, "one_way_sync_download", QT_TRANSLATE_NOOP("global", "One-way sync (download only)"));
   Row(283, "msi_exit_dlg_text",
       QT_TRANSLATE_NOOP("global", "Lumivo Drive is now installed on this computer."));
@@ -520,17 +516,16 @@ void InitStrTable() {
   Row(291, "msi_readyremove_dlg_text",
       QT_TRANSLATE_NOOP("global",
                         "Click Remove to remove Lumivo Drive from this computer. Click Back to "
-                        "review your choice. "
-                        "Click Cancel to leave the setup."));
+                        "review your choice. Click Cancel to exit Setup."));
   Row(292, "msi_maintenance_welcome_dlg_subtitle",
-      QT_TRANSLATE_NOOP("global", "Welcome back to the setup of Lumivo Drive"));
+      QT_TRANSLATE_NOOP("global", "Welcome back to Lumivo Drive Setup"));
   Row(293, "conn_mode_direct", QT_TRANSLATE_NOOP("global", "Direct"));
   Row(294, "selective_sync_file_title", QT_TRANSLATE_NOOP("global", "Files"));
   Row(295, "wizard_conflict_sync_folder_warning",
       QT_TRANSLATE_NOOP(
           "global", "This folder is already used by another sync task. Select another folder."));
   Row(296, "err_full_short", QT_TRANSLATE_NOOP("global", "No space left"));
-  Row(297, "manage_share_loading", QT_TRANSLATE_NOOP("global", "Loading the shared folders..."));
+  Row(297, "manage_share_loading", QT_TRANSLATE_NOOP("global", "Loading shared folders..."));
   Row(298, "msg_unlinking", QT_TRANSLATE_NOOP("global", "Unlinking..."));
   Row(299, "tray_current_syncing", QT_TRANSLATE_NOOP("global", "Files being synced"));
   Row(300, "wizard_welcome_footer_info",
@@ -541,11 +536,11 @@ void InitStrTable() {
       QT_TRANSLATE_NOOP("global",
                         "The folder on your server is not mounted. Mount it there and try again."));
   Row(304, "manage_option_show_filtered_icons",
-      QT_TRANSLATE_NOOP("global", "Mark filtered files with an icon"));
+      QT_TRANSLATE_NOOP("global", "Mark skipped files with an icon"));
   Row(305, "conn_mode_reading", QT_TRANSLATE_NOOP("global", "Checking the connection type..."));
   Row(306, "btn_next", QT_TRANSLATE_NOOP("global", "Next"));
   Row(307, "info_mergefolder",
-      QT_TRANSLATE_NOOP("global", "Files with different contents are kept in both versions."));
+      QT_TRANSLATE_NOOP("global", "Both versions of files with different contents are kept."));
   Row(308, "wizard_setup_repeat_warning",
       QT_TRANSLATE_NOOP("global", "This folder is already synced. Do you want to add it again?"));
   Row(309, "advanced_settings", QT_TRANSLATE_NOOP("global", "Advanced settings"));
@@ -556,16 +551,16 @@ void InitStrTable() {
   Row(311, "err_proto",
       QT_TRANSLATE_NOOP(
           "global",
-          "The answer of the server could not be understood. Update Lumivo Drive and try again."));
+          "The server's response could not be understood. Update Lumivo Drive and try again."));
   Row(312, "msi_cancel_dlg_text",
       QT_TRANSLATE_NOOP("global",
                         "Are you sure you want to cancel the installation of Lumivo Drive?"));
   Row(313, "manage_proxy_server_port", QT_TRANSLATE_NOOP("global", "Port"));
   Row(314, "tray_fb_change",
-      QT_TRANSLATE_NOOP("global", "Another server was found at this address"));
+      QT_TRANSLATE_NOOP("global", "A different server was found at this address"));
   Row(315, "month_jul", QT_TRANSLATE_NOOP("global", "July"));
   Row(316, "msi_filesinuse_dlg_description",
-      QT_TRANSLATE_NOOP("global", "Some files that have to be updated are in use."));
+      QT_TRANSLATE_NOOP("global", "Some files that need to be updated are in use."));
   Row(317, "desc_lmvo_env_preparation_done", QT_TRANSLATE_NOOP("global", "Lumivo Drive is ready."));
   Row(318, "err_database",
       QT_TRANSLATE_NOOP("global",
@@ -584,9 +579,8 @@ void InitStrTable() {
   Row(326, "sharing_restrict", QT_TRANSLATE_NOOP("global", "Restrict access"));
   Row(327, "msi_welcome_dlg_description",
       QT_TRANSLATE_NOOP("global",
-                        "The setup program installs Lumivo Drive on this computer. Click Next to "
-                        "continue or Cancel to "
-                        "leave the setup."));
+                        "Setup will install Lumivo Drive on this computer. Click Next to continue "
+                        "or Cancel to exit Setup."));
   Row(328, "wizard_connection_setting_desc",
       QT_TRANSLATE_NOOP(
           "global",
@@ -595,17 +589,17 @@ void InitStrTable() {
       QT_TRANSLATE_NOOP(
           "global", "Could not create the folder \"%1\". Check its path and your permissions."));
   Row(330, "msi_fatalerror_dlg_description1",
-      QT_TRANSLATE_NOOP(
-          "global", "The setup ended because of an error.\\nYour computer has not been changed."));
+      QT_TRANSLATE_NOOP("global",
+                        "Setup ended because of an error.\\nYour computer has not been changed."));
   Row(331, "msg_quotafull",
       QT_TRANSLATE_NOOP(
           "global", "Your quota on the server is used up. Delete some files to continue syncing."));
   Row(332, "btn_ok", QT_TRANSLATE_NOOP("global", "OK"));
   Row(333, "folder_selective_sync", QT_TRANSLATE_NOOP("global", "Folder filter"));
   Row(334, "wizard_ssl_verify_fail_sync_folder_warning",
-      QT_TRANSLATE_NOOP("global",
-                        "The certificate of your server could not be verified. Check it in the "
-                        "connection settings."));
+      QT_TRANSLATE_NOOP(
+          "global",
+          "Your server's certificate could not be verified. Check it in the connection settings."));
   Row(335, "btn_choseother", QT_TRANSLATE_NOOP("global", "Choose another folder"));
   Row(336, "msg_finish_way",
       QT_TRANSLATE_NOOP("global", "You can open Lumivo Drive at any time from the tray."));
@@ -616,8 +610,7 @@ void InitStrTable() {
                         "one that you do not need."));
   Row(338, "wizard_ssl_change_sync_folder_warning",
       QT_TRANSLATE_NOOP(
-          "global",
-          "The certificate of your server has changed. Check it in the connection settings."));
+          "global", "Your server's certificate has changed. Check it in the connection settings."));
   Row(339, "manage_option_enable_ssl", QT_TRANSLATE_NOOP("global", "Encrypt the connection (SSL)"));
   Row(340, "folder_name", QT_TRANSLATE_NOOP("global", "Folder name"));
   Row(341, "tutorial_fourth_desc",
@@ -634,7 +627,7 @@ void InitStrTable() {
   Row(347, "msg_network_drive_watch",
       QT_TRANSLATE_NOOP(
           "global",
-          "Changes on a network drive cannot be watched. Select a folder on a local disk."));
+          "Changes on a network drive cannot be detected. Select a folder on a local disk."));
   Row(348, "wizard_share_name_duplicate_warning",
       QT_TRANSLATE_NOOP("global", "A folder with this name already exists. Enter another name."));
   Row(349, "friday", QT_TRANSLATE_NOOP("global", "Friday"));
@@ -659,7 +652,7 @@ void InitStrTable() {
   Row(364, "quick_mode_finish_page_title", QT_TRANSLATE_NOOP("global", "Setup complete"));
   Row(365, "title_chart_tray", QT_TRANSLATE_NOOP("global", "Icons in the tray"));
   Row(366, "month_may", QT_TRANSLATE_NOOP("global", "May"));
-  Row(367, "manage_option_synchronization_mode", QT_TRANSLATE_NOOP("global", "Sync mode"));
+  Row(367, "manage_option_synchronization_mode", QT_TRANSLATE_NOOP("global", "Sync direction"));
   Row(368, "btn_back", QT_TRANSLATE_NOOP("global", "Back"));
   Row(369, "history_last_month", QT_TRANSLATE_NOOP("global", "Last month"));
   Row(370, "context_menu_version_browse", QT_TRANSLATE_NOOP("global", "Browse earlier versions"));
@@ -684,9 +677,10 @@ void InitStrTable() {
   Row(383, "tray_exit", QT_TRANSLATE_NOOP("global", "Exit"));
   Row(384, "manage_option_enable_context_menu",
       QT_TRANSLATE_NOOP("global", "Show Lumivo Drive in the context menu"));
-  Row(385, "msi_eula_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(385, "msi_eula_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(386, "status_desc_errversion_client",
-      QT_TRANSLATE_NOOP("global", "Lumivo Drive is too old. Update it on this computer."));
+      QT_TRANSLATE_NOOP("global",
+                        "This version of Lumivo Drive is too old. Update it on this computer."));
   Row(387, "wizard_invalid_sync_folder_warning",
       QT_TRANSLATE_NOOP("global", "This folder cannot be synced. Select another folder."));
   Row(388, "main_settings", QT_TRANSLATE_NOOP("global", "Settings"));
@@ -747,24 +741,23 @@ void InitStrTable() {
                         "on this computer will be kept."));
   Row(427, "file_ext_label", QT_TRANSLATE_NOOP("global", "File extensions to skip"));
   Row(428, "conn_mode_ez", QT_TRANSLATE_NOOP("global", "Relay"));
-  Row(429, "msi_progress_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(429, "msi_progress_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(430, "err_auth_short", QT_TRANSLATE_NOOP("global", "Sign-in failed"));
   Row(431, "msi_maintenance_dlg_change_text_disabled",
       QT_TRANSLATE_NOOP("global", "Lumivo Drive has no features that can be chosen separately."));
   Row(432, "title_value", QT_TRANSLATE_NOOP("global", "Value"));
   Row(433, "NSIS_NOT_ADMIN_CONFIRM",
       QT_TRANSLATE_NOOP("global",
-                        "You are not signed in as an administrator. Lumivo Drive will only be "
-                        "installed for you.\\nDo "
-                        "you want to continue?"));
+                        "You are not signed in as an administrator. Lumivo Drive will be installed "
+                        "only for you.\\nDo you want to continue?"));
   Row(434, "err_fxm_share_link",
       QT_TRANSLATE_NOOP("global",
                         "Links cannot be created because the file service is turned off. Ask your "
                         "administrator to turn it on."));
   Row(435, "msi_filesinuse_dlg_closeall",
-      QT_TRANSLATE_NOOP("global", "Close the applications and try to start them again afterwards"));
+      QT_TRANSLATE_NOOP("global", "Close the applications and try to restart them afterward"));
   Row(436, "msi_eula_dlg_subtitle", QT_TRANSLATE_NOOP("global", "License agreement"));
-  Row(437, "msi_welcome_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive setup"));
+  Row(437, "msi_welcome_dlg_title", QT_TRANSLATE_NOOP("global", "Lumivo Drive Setup"));
   Row(438, "wizard_system_err_sync_folder_warning",
       QT_TRANSLATE_NOOP(
           "global", "The folder could not be checked because of a system error. Try again later."));
@@ -790,9 +783,8 @@ void InitStrTable() {
                         "add more sync tasks at any time."));
   Row(450, "context_menu_filter_folder", QT_TRANSLATE_NOOP("global", "Do not sync this folder"));
   Row(451, "msg_ssl_change",
-      QT_TRANSLATE_NOOP(
-          "global",
-          "The certificate of your server has changed.\\nContinue only if you know why."));
+      QT_TRANSLATE_NOOP("global",
+                        "Your server's certificate has changed.\\nContinue only if you know why."));
   Row(452, "file_max_size_label", QT_TRANSLATE_NOOP("global", "Maximum file size (MB)"));
   Row(453, "conflict_policy_compare_mtime",
       QT_TRANSLATE_NOOP("global", "Keep the version that was changed last"));
@@ -805,14 +797,15 @@ void InitStrTable() {
   Row(456, "selective_sync_folder_title", QT_TRANSLATE_NOOP("global", "Folders"));
   Row(457, "time_just_now", QT_TRANSLATE_NOOP("global", "Just now"));
   Row(458, "msi_readyrepair_dlg_description",
-      QT_TRANSLATE_NOOP("global", "The setup program is ready to repair Lumivo Drive."));
+      QT_TRANSLATE_NOOP("global", "Setup is ready to repair Lumivo Drive."));
   Row(459, "wizard_readonly_sync_folder_warning",
       QT_TRANSLATE_NOOP(
           "global",
           "You can only read this folder. Changes on this computer will not be uploaded."));
   Row(460, "wizard_access_deny_sync_folder_warning",
       QT_TRANSLATE_NOOP(
-          "global", "You have no access to this folder. Ask your administrator for permission."));
+          "global",
+          "You do not have access to this folder. Ask your administrator for permission."));
   Row(461, "history_no_data", QT_TRANSLATE_NOOP("global", "No entries found"));
   Row(462, "quick_mode_end_msg",
       QT_TRANSLATE_NOOP("global",
@@ -820,9 +813,9 @@ void InitStrTable() {
   Row(463, "title_inactive", QT_TRANSLATE_NOOP("global", "Inactive"));
   Row(464, "msg_ssl_error",
       QT_TRANSLATE_NOOP("global",
-                        "The certificate of your server could not be verified.\\nContinue only if "
-                        "you trust this network."));
-  Row(465, "tray_syncing_file_cnt", QT_TRANSLATE_NOOP("global", "Files still to sync: %1"));
+                        "Your server's certificate could not be verified.\\nContinue only if you "
+                        "trust this network."));
+  Row(465, "tray_syncing_file_cnt", QT_TRANSLATE_NOOP("global", "Files left to sync: %1"));
   Row(466, "msg_welcome", QT_TRANSLATE_NOOP("global", "Welcome to Lumivo Drive"));
   Row(467, "sharing_enable_expire_at", QT_TRANSLATE_NOOP("global", "Set an end date"));
   Row(468, "err_shareitem_delete",
@@ -832,8 +825,8 @@ void InitStrTable() {
   Row(470, "tutorial_first_title", QT_TRANSLATE_NOOP("global", "Your sync folder"));
   Row(471, "err_ssl_verify_fail",
       QT_TRANSLATE_NOOP("global",
-                        "The certificate of your server could not be verified. Ask your "
-                        "administrator for a valid one."));
+                        "Your server's certificate could not be verified. Ask your administrator "
+                        "to install a valid one."));
   Row(472, "status_desc_fb_changed",
       QT_TRANSLATE_NOOP("global", "The server has been replaced. Link this computer again."));
   Row(473, "wizard_welcome_mask_desc",
@@ -847,16 +840,17 @@ void InitStrTable() {
   Row(480, "msi_button_finish", QT_TRANSLATE_NOOP("global", "Finish"));
   Row(481, "history_search", QT_TRANSLATE_NOOP("global", "Search"));
   Row(482, "title_chart_local", QT_TRANSLATE_NOOP("global", "Icons on local files"));
-  Row(483, "context_menu_no_option_available", QT_TRANSLATE_NOOP("global", "No action available"));
+  Row(483, "context_menu_no_option_available", QT_TRANSLATE_NOOP("global", "No actions available"));
   Row(484, "history_file_name", QT_TRANSLATE_NOOP("global", "File name"));
   Row(485, "notify_abnormal_short", QT_TRANSLATE_NOOP("global", "Syncing stopped"));
   Row(486, "manage_share_local_syncfolder", QT_TRANSLATE_NOOP("global", "Local sync folder"));
   Row(487, "msg_disabled", QT_TRANSLATE_NOOP("global", "Disabled"));
   Row(488, "tooltip_folder_indexing",
-      QT_TRANSLATE_NOOP("global",
-                        "Your server is still indexing \"%1\". It can be synced afterwards."));
+      QT_TRANSLATE_NOOP(
+          "global",
+          "Your server is still indexing \"%1\". You can sync it when indexing is complete."));
   Row(489, "conflict_policy_desc",
-      QT_TRANSLATE_NOOP("global", "When a file was changed in two places"));
+      QT_TRANSLATE_NOOP("global", "When a file has been changed in two places"));
   Row(490, "msg_folder_not_empty",
       QT_TRANSLATE_NOOP("global",
                         "The folder \"%1\" is not empty.\\nDo you want to use it anyway?"));
@@ -864,15 +858,14 @@ void InitStrTable() {
   Row(492, "col_file_name", QT_TRANSLATE_NOOP("global", "File name"));
   Row(493, "title_changefolder", QT_TRANSLATE_NOOP("global", "Change folder"));
   Row(494, "wizard_setup_quick_mode_desc",
-      QT_TRANSLATE_NOOP("global", "Sync your home folder with the recommended settings."));
-  Row(495, "selective_sync_loading", QT_TRANSLATE_NOOP("global", "Loading the folders..."));
+      QT_TRANSLATE_NOOP("global", "Sync your home folder using the recommended settings."));
+  Row(495, "selective_sync_loading", QT_TRANSLATE_NOOP("global", "Loading folders..."));
   Row(496, "wednesday", QT_TRANSLATE_NOOP("global", "Wednesday"));
   Row(497, "title_ssl_enable", QT_TRANSLATE_NOOP("global", "SSL encryption"));
   Row(498, "msi_ready_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Ready to install Lumivo Drive"));
   Row(499, "manage_option_sync_mode", QT_TRANSLATE_NOOP("global", "Sync mode"));
   Row(500, "msi_userexit_dlg_description2",
-      QT_TRANSLATE_NOOP("global",
-                        "Run the setup program again whenever you want to install Lumivo Drive."));
+      QT_TRANSLATE_NOOP("global", "Run Setup again whenever you want to install Lumivo Drive."));
   Row(501, "quick_mode_finish_page_desc",
       QT_TRANSLATE_NOOP("global", "Your home folder on the server now syncs with this computer."));
   Row(502, "fb_overview", QT_TRANSLATE_NOOP("global", "Server overview"));
@@ -894,7 +887,7 @@ void InitStrTable() {
   Row(515, "msg_download_downloading", QT_TRANSLATE_NOOP("global", "Downloading..."));
   Row(516, "msg_language_restart",
       QT_TRANSLATE_NOOP("global",
-                        "The new language is used after the next start of Lumivo Drive."));
+                        "The new language takes effect the next time Lumivo Drive starts."));
   Row(517, "msi_progress_dlg_subtitle", QT_TRANSLATE_NOOP("global", "Installing Lumivo Drive"));
   Row(518, "manage_option_enable_desktop_notify",
       QT_TRANSLATE_NOOP("global", "Show desktop notifications"));
@@ -902,7 +895,7 @@ void InitStrTable() {
       QT_TRANSLATE_NOOP("global",
                         "Quick setup suits most users. You can change everything later."));
   Row(520, "label_downloading", QT_TRANSLATE_NOOP("global", "Downloading..."));
-  Row(521, "status_desc_diskfull", QT_TRANSLATE_NOOP("global", "The disk of your server is full."));
+  Row(521, "status_desc_diskfull", QT_TRANSLATE_NOOP("global", "Your server's disk is full."));
   Row(522, "tutorial_third_title", QT_TRANSLATE_NOOP("global", "Go back in time"));
 }
 

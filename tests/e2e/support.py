@@ -1,9 +1,12 @@
-"""What the end-to-end tests share: a staged bundle of their own, a scratch home, and questions to ask afterwards."""
+"""What the end-to-end tests share: bundles, homes, packages, and questions to ask afterwards."""
 
+import dataclasses
+import functools
 import os
 import pathlib
 import re
 import shutil
+import signal
 import stat
 import subprocess
 import tempfile
@@ -12,48 +15,44 @@ import unittest
 
 BUNDLE = pathlib.Path(os.environ["LUMIVO_BUNDLE"])
 MAKE_PACKAGE, READER = os.environ["LUMIVO_MAKE_PACKAGE"], os.environ["LUMIVO_READER"]
-LEVELS = "launcher_debug=7\nservice_debug=7\nextractor_debug=7\n"
-ROOT, NOBODY = os.geteuid() == 0, 65534
 EXECUTABLE, INFO = "Contents/MacOS/lumivo-drive-ui", "Contents/Resources/INFO"
-# The client: writes its pid file, and ends the way HOME/client-mode says when it is asked to. As large as a program.
-CLIENT = (
-    """#!/bin/sh
-echo "pid=$$" >"$HOME/.Lumivo/ui.pid"
-case $(cat "$HOME/client-mode" 2>/dev/null) in
-  ignore) trap "" TERM ;;
-  linger) trap 'sleep 2; rm -f "$HOME/.Lumivo/ui.pid"; exit' TERM ;;
-  *) trap 'rm -f "$HOME/.Lumivo/ui.pid"; exit' TERM ;;
-esac
-for tenth in $(seq 1200); do sleep 0.1; done
-exit
-"""
-    + "#" * 100_000
+LAUNCHER = "Contents/MacOS/lumivo-launcher"
+ALL_LEVELS = "launcher_debug=7\nservice_debug=7\nextractor_debug=7\n"
+FULL = os.environ.get("LUMIVO_FULL") == "1"
+ROOT, NOBODY = os.geteuid() == 0, 65534
+# For what only a user meets whom file modes stop; None is the user who runs the tests.
+ORDINARY_USER = NOBODY if ROOT else None
+PROPERTIES = (
+    "<plist><dict><key>CFBundleExecutable</key><string>lumivo-drive-ui</string></dict></plist>\n"
 )
+# The comment makes the client as large as a program.
+CLIENT = pathlib.Path(__file__).with_name("client.sh").read_text() + "#" * 100_000
+PAUSE_SECONDS = 0.02
+MEMORY, ENOUGH_BYTES = "/dev/shm", 1 << 30
 
 
 def wait_for(condition, what, seconds=20):
-    """The first true result of `condition`, polled; fails when there is none in time."""
+    """The first true result of `condition`, asked again and again; fails when time is over."""
     deadline = time.monotonic() + seconds
     while time.monotonic() < deadline:
         result = condition()
         if result:
             return result
-        time.sleep(0.02)
-    raise AssertionError(f"timed out: {what}")
+        time.sleep(PAUSE_SECONDS)
+    raise AssertionError(f"timed out after {seconds} seconds: {what}")
 
 
 def alive(pid):
     """Whether the process runs: a zombie does not."""
     try:
-        return (
-            pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1].split()[0] not in "ZX"
-        )
+        after_name = pathlib.Path(f"/proc/{pid}/stat").read_text().rsplit(")", 1)[1]
     except OSError:
         return False
+    return after_name.split()[0] not in ("Z", "X")
 
 
 def tree(folder):
-    """Every node below `folder`: its kind with what makes it differ (bytes, link text, execute bit)."""
+    """Every node below `folder`: its kind with its bytes and execute bit, or its link text."""
     found = {}
     for path in sorted(folder.rglob("*")):
         info = path.lstat()
@@ -63,61 +62,103 @@ def tree(folder):
         elif stat.S_ISDIR(info.st_mode):
             found[name] = ("folder",)
         else:
-            found[name] = ("file", path.read_bytes(), bool(info.st_mode & 0o100))
+            found[name] = ("file", path.read_bytes(), bool(info.st_mode & stat.S_IXUSR))
     return found
+
+
+def choose_temporary_folder():
+    """Memory, where there is enough: the launcher forces to the disk what it writes."""
+    if not os.access(MEMORY, os.W_OK):
+        return
+    space = os.statvfs(MEMORY)
+    if space.f_bavail * space.f_frsize >= ENOUGH_BYTES and not space.f_flag & os.ST_NOEXEC:
+        tempfile.tempdir = MEMORY
+
+
+choose_temporary_folder()
+# For what is made once and never changed; it is removed when the program ends.
+SHARED_FOLDER = tempfile.TemporaryDirectory(prefix="lumivo-shared-")
+SHARED = pathlib.Path(SHARED_FOLDER.name).resolve()
+SHARED.chmod(0o755)
+
+
+def link_or_copy(source, destination):
+    """A second name for the file, or a copy where it would be on another file system."""
+    try:
+        os.link(source, destination)
+    except OSError:
+        shutil.copy2(source, destination)
+
+
+def change_owner(folder, user):
+    """Gives the folder and all that lies below to the user and the group of that number."""
+    for path in (folder, *folder.rglob("*")):
+        os.chown(path, user, user, follow_symlinks=False)
+
+
+@functools.lru_cache
+def shared_bundle():
+    """The staged bundle, where every user can reach it."""
+    bundle = SHARED / "Lumivo.app"
+    shutil.copytree(BUNDLE, bundle, symlinks=True, copy_function=link_or_copy)
+    return bundle
 
 
 def make_client(app, build, files):
     """A client with the kinds of entries that real ones have.
 
-    With `files` there are that many more, some of them links and some executable, in folders of fifty.
+    With `files` there are that many more, in folders of fifty: every 25th a link, every tenth
+    executable.
     """
-    contents = {
-        "help/tool.sh": "#!/bin/sh\n",
-        "Größe 図/é.txt": "accents\n",
-        f"only in {build}.txt": f"build {build}\n",
-    }
+    resources = app / "Contents/Resources"
+    (resources / "help").mkdir(parents=True)
+    (app / "Contents/Info.plist").write_text(PROPERTIES)
+    (resources / "help/tool.sh").write_text("#!/bin/sh\n")
+    (resources / "help/tool.sh").chmod(0o755)
+    (resources / "help/latest").symlink_to("../Größe 図/é.txt")
+    (resources / "Größe 図").mkdir()
+    (resources / "Größe 図/é.txt").write_text("accents\n")
+    (resources / f"only in {build}.txt").write_text(f"build {build}\n")
     for number in range(files):
-        contents[f"many/ö{number // 50}/{number}"] = (
-            f"{build} {number}\n" * (number % 30) if number % 25 else None
-        )
-    for name, text in contents.items():
-        path = app / "Contents/Resources" / name
+        path = resources / f"many/ö{number // 50}/{number}"
         path.parent.mkdir(parents=True, exist_ok=True)
-        if text is None:
+        if number % 25 == 0:
             path.symlink_to("../ö0/1")
-        else:
-            path.write_text(text)
-            path.chmod(0o755 if name[-1] in "1h" else 0o644)
-    (app / "Contents/Resources/help/latest").symlink_to("../Größe 図/é.txt")
+            continue
+        path.write_text(f"{build} {number}\n" * (number % 30))
+        path.chmod(0o755 if number % 10 == 1 else 0o644)
     (app / EXECUTABLE).parent.mkdir()
     (app / EXECUTABLE).write_text(CLIENT)
     (app / EXECUTABLE).chmod(0o755)
 
 
-class Packages:
-    """Installed trees by build and number of additional files, with their nodes; made once, the package beside each."""
+@dataclasses.dataclass(frozen=True)
+class Package:
+    """A package, the version file that goes with it, and the client that both were made of."""
 
-    scratch = tempfile.TemporaryDirectory(prefix="lumivo-packages-")
-    made = {}
+    archive: pathlib.Path
+    info: pathlib.Path
+    app: pathlib.Path  # as it is after an installation
+    nodes: dict  # of `app`
 
-    @classmethod
-    def of(cls, build, files=0):
-        if (build, files) not in cls.made:
-            app = pathlib.Path(cls.scratch.name, f"{build}-{files}/Lumivo.app")
-            make_client(app, build, files)
-            subprocess.run(
-                [MAKE_PACKAGE, app, app.parent, "--build", str(build), "--reader", READER],
-                check=True,
-                stdout=subprocess.DEVNULL,
-            )
-            shutil.copy(app.parent / "INFO", app / INFO)
-            cls.made[build, files] = (app, tree(app))
-        return cls.made[build, files]
+
+@functools.lru_cache(maxsize=None)
+def package_of(build, files):
+    """The package of a client as make_client() makes it."""
+    folder = SHARED / f"{build}-{files}"
+    app = folder / "Lumivo.app"
+    make_client(app, build, files)
+    subprocess.run(
+        [MAKE_PACKAGE, app, folder, "--build", str(build), "--reader", READER],
+        check=True,
+        stdout=subprocess.DEVNULL,
+    )
+    shutil.copy(folder / "INFO", app / INFO)
+    return Package(folder / "lumivo.lvp", folder / "INFO", app, tree(app))
 
 
 class Case(unittest.TestCase):
-    """One test: a folder with a bundle of its own, a home and a temporary folder. Ends every client that it started."""
+    """A test with a bundle, a home and a temporary folder of its own. It ends all its clients."""
 
     files = 0  # that clients have in addition
     home = pathlib.Path("/nowhere")
@@ -133,66 +174,73 @@ class Case(unittest.TestCase):
     def begin(self, installed=None, package=None, below=None, user=None):
         """A fresh home, with a complete client that does not run, and the package in the bundle."""
         self.end_clients()
-        self.home, self.temporary = (
-            pathlib.Path(tempfile.mkdtemp(dir=folder))
-            for folder in (below or self.folder, self.folder)
-        )
+        self.home = pathlib.Path(tempfile.mkdtemp(prefix="home-", dir=below or self.folder))
+        self.temporary = pathlib.Path(tempfile.mkdtemp(prefix="tmp-", dir=self.folder))
         self.app = self.home / ".Lumivo/Lumivo.app"
         if installed:
-            shutil.copytree(Packages.of(installed, self.files)[0], self.app, symlinks=True)
+            shutil.copytree(self.package(installed).app, self.app, symlinks=True)
         if package:
             self.put_package(package)
-        if user:
-            subprocess.run(["chown", "-R", f"{user}:{user}", self.home, self.temporary], check=True)
+        if user is not None:
+            change_owner(self.home, user)
+            change_owner(self.temporary, user)
 
     def copy_bundle(self, name):
-        """A copy of the staged bundle, without a package and with all levels."""
-        bundle = self.folder / name
-        shutil.copytree(
-            BUNDLE, bundle, symlinks=True, ignore=shutil.ignore_patterns("lumivo.lvp", "INFO")
-        )
+        """A bundle without a package and with all log levels. What is large in it is shared."""
+        bundle, shared = self.folder / name, shared_bundle()
+        left_out = shutil.ignore_patterns("lumivo.lvp", "INFO", "Frameworks", "lumivo-launcher")
+        shutil.copytree(shared, bundle, symlinks=True, ignore=left_out)
+        (bundle / "Contents/Frameworks").symlink_to(shared / "Contents/Frameworks")
+        link_or_copy(shared / LAUNCHER, bundle / LAUNCHER)
         (bundle / "Contents/Resources/package").mkdir(exist_ok=True)
-        (bundle / "log/launcher.debug").write_text(LEVELS)
+        (bundle / "log").mkdir(exist_ok=True)
+        (bundle / "log/launcher.debug").write_text(ALL_LEVELS)
         return bundle
+
+    def package(self, build):
+        return package_of(build, self.files)
 
     def put_package(self, build, bundle=None):
         """Gives the bundle the package of `build`; returns the complete tree that it installs."""
         resources = (bundle or self.bundle) / "Contents/Resources"
-        app, complete = Packages.of(build, self.files)
-        shutil.copy(app.parent / "lumivo.lvp", resources / "package")
-        shutil.copy(app.parent / "INFO", resources)
-        return complete
+        package = self.package(build)
+        shutil.copy(package.archive, resources / "package")
+        shutil.copy(package.info, resources)
+        return package.nodes
 
     def archive(self):
         return self.bundle / "Contents/Resources/package/lumivo.lvp"
 
+    def pid_file(self):
+        return self.home / ".Lumivo/ui.pid"
+
+    def set_client_mode(self, mode):
+        """How the clients that are started from now on take the request to end: see client.sh."""
+        (self.home / "client-mode").write_text(mode + "\n")
+
     def environment(self, **changes):
-        """What a session sets, with HOME and the temporary folder of this case."""
-        environment = {
-            "HOME": str(self.home),
-            "TMPDIR": str(self.temporary),
+        """What a session sets, and the changes; None takes a variable away."""
+        variables = {
+            "HOME": self.home,
+            "TMPDIR": self.temporary,
             "PATH": os.environ["PATH"],
             "QT_QPA_PLATFORM": "offscreen",
             "LC_ALL": "C.UTF-8",
+            **changes,
         }
-        return {
-            name: str(value)
-            for name, value in {**environment, **changes}.items()
-            if value is not None
-        }
+        return {name: str(value) for name, value in variables.items() if value is not None}
 
     def start(self, bundle=None, command=(), user=None, **changes):
         """Starts the launcher; its output is collected. `command` goes in front of it."""
-        executable = (bundle or self.bundle) / "Contents/MacOS/lumivo-launcher"
-        options = {"user": user, "group": user, "extra_groups": []} if user else {}
+        as_user = {"user": user, "group": user, "extra_groups": []} if user is not None else {}
         return subprocess.Popen(
-            [*command, str(executable)],
+            [*command, str((bundle or self.bundle) / LAUNCHER)],
             env=self.environment(**changes),
             cwd=self.folder,
             text=True,
             stdout=subprocess.PIPE,
             stderr=subprocess.PIPE,
-            **options,
+            **as_user,
         )
 
     def run_launcher(self, **options):
@@ -208,48 +256,53 @@ class Case(unittest.TestCase):
         return path.read_text(errors="replace") if path.exists() else ""
 
     def clients(self):
-        """The process ids of the clients that run from this test's folder."""
-        line = f"^/bin/sh {self.folder}/.*/lumivo-drive-ui$"
-        return [
-            int(pid)
-            for pid in subprocess.run(
-                ["pgrep", "-f", line], stdout=subprocess.PIPE, check=False
-            ).stdout.split()
-        ]
+        """The process IDs of the clients that run from this test's folder."""
+        found = []
+        for process in os.listdir("/proc"):
+            if not process.isdigit():
+                continue
+            try:
+                line = pathlib.Path(f"/proc/{process}/cmdline").read_bytes()
+            except OSError:
+                continue  # it has just ended
+            if line.startswith(b"/bin/sh\0%b/" % os.fsencode(self.folder)):
+                found.append(int(process))
+        return found
 
     def wait_for_client(self, *others):
-        """The process id of the one client that runs but for the others, once its pid file is written."""
-        pid_file = self.home / ".Lumivo/ui.pid"
-        new = lambda: [pid for pid in self.clients() if pid not in others]
-        wait_for(
-            lambda: pid_file.exists()
-            and [f"pid={pid}\n" for pid in new()] == [pid_file.read_text()],
-            f"a client; log:\n{self.log()}",
-        )
-        return new()[0]
+        """The ID of the one client that runs but for the others, once its pid file is written."""
+
+        def client():
+            running = [pid for pid in self.clients() if pid not in others]
+            named = self.pid_file().read_text() if self.pid_file().exists() else ""
+            return running if [f"pid={pid}\n" for pid in running] == [named] else None
+
+        return wait_for(client, f"a client that runs alone; log:\n{self.log()}")[0]
 
     def end_clients(self):
-        """Ends the clients, those too that have only just been started; nobody's process id stays on file."""
+        """Ends the clients, also those that have only just been started, and their pid file."""
         while clients := self.clients():
-            subprocess.run(
-                ["kill", "-KILL", *map(str, clients)], stderr=subprocess.DEVNULL, check=False
-            )
-        if (self.home / ".Lumivo/ui.pid").is_file():
-            (self.home / ".Lumivo/ui.pid").unlink()
+            for pid in clients:
+                try:
+                    os.kill(pid, signal.SIGKILL)
+                except ProcessLookupError:
+                    pass
+        if self.pid_file().is_file():
+            self.pid_file().unlink()
 
     def install(self, build):
-        """Installs `build` and returns the process id of its client."""
+        """Installs `build` and returns the process ID of its client."""
         complete, before = self.put_package(build), self.clients()
         self.run_launcher()
         self.assert_installed(complete)
         return self.wait_for_client(*before)
 
-    def assert_same_tree(self, found, complete):
+    def assert_same_tree(self, found, expected):
         """By name: a difference of whole files would be too long to print."""
-        different = sorted(
-            name for name in found.keys() | complete.keys() if found.get(name) != complete.get(name)
-        )
-        self.assertEqual(different, [])
+        different = [
+            name for name in found.keys() | expected.keys() if found.get(name) != expected.get(name)
+        ]
+        self.assertEqual(sorted(different), [], "these differ, or are on one side only")
 
     def assert_installed(self, complete):
         """The per-user bundle is exactly the complete tree, and no backup lies beside it."""
@@ -261,5 +314,5 @@ class Case(unittest.TestCase):
         log, position = self.log(), 0
         for message in messages:
             found = re.compile(re.escape(message).replace("%d", r"-?\d+")).search(log, position)
-            self.assertTrue(found, f"not logged (in this order): {message}\n{log}")
+            self.assertIsNotNone(found, f"not logged (in this order): {message}\n{log}")
             position = found.end()

@@ -161,6 +161,7 @@ CHANGE(linkat, (int from, Text path, int to, Text name, int flags), (from, path,
 CHANGE(chmod, (Text path, mode_t mode), (path, mode), path)
 CHANGE(lchmod, (Text path, mode_t mode), (path, mode), path)
 CHANGE(fsync, (int fd), (fd), PathOf(fd))
+CHANGE(syncfs, (int fd), (fd), PathOf(fd))
 CHANGE(ftruncate, (int fd, off_t size), (fd, size), PathOf(fd))
 
 LOOK(access, (Text path, int mode), (path, mode), path)

@@ -3,11 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTranslator>
 #include <memory>
 #include <thread>
 
+#include "StrTable.h"
 #include "notify-adapter.h"
 #include "support/test-home.h"
 
@@ -18,22 +23,72 @@ QProgressDialog* Dialog() {
   return qobject_cast<QProgressDialog*>(QApplication::topLevelWidgets().value(0));
 }
 
+struct Report {
+  int total;
+  int steps;
+  int value;  // that the dialog shows then
+};
+
 TEST(Launcher, DialogShowsWhatIsReportedAndCannotBeCancelled) {
   const TestHome home;
   const Launcher launcher;
   QProgressDialog* dialog = Dialog();
   EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(dialog->windowModality(), Qt::WindowModal);
   EXPECT_TRUE(dialog->findChildren<QPushButton*>().isEmpty());
   dialog->show();
-  const int reports[][3] = {
+  const Report reports[] = {
       {120, 37, 30}, {0, 5, 30}, {-3, 1, 30}, {21474836, 21474836, 100}, {3, 1, 33}};
-  for (const auto& [total, steps, value] : reports) {
-    Notify_Adapter::GetInstance()->UpdateProgress(total, steps);
-    EXPECT_EQ(dialog->value(), value) << steps << " of " << total;
+  for (const Report& row : reports) {
+    Notify_Adapter::GetInstance()->UpdateProgress(row.total, row.steps);
+    EXPECT_EQ(dialog->value(), row.value) << row.steps << " of " << row.total;
     EXPECT_TRUE(dialog->isVisible()) << "100% must not hide it";
   }
   Notify_Adapter::GetInstance()->UpdateDialogText(QStringLiteral("text"));
   EXPECT_EQ(dialog->labelText(), QStringLiteral("text"));
+}
+
+TEST(Launcher, DialogSpeaksTheInstalledLanguage) {
+  const TestHome home;
+  QTranslator translator;
+  ASSERT_TRUE(translator.load(QStringLiteral(":/deu.qm")));
+  ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
+  StrTable::InitStrTable();
+  {
+    const Launcher launcher;
+    const QLabel* label = Dialog()->findChild<QLabel*>();
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(label->text(), translator.translate("global", "Lumivo Drive is initializing..."));
+    EXPECT_NE(label->text(), QStringLiteral("Lumivo Drive is initializing..."));
+  }
+  QCoreApplication::removeTranslator(&translator);
+  StrTable::InitStrTable();
+}
+
+TEST(Launcher, NothingButTheWorkerEndsTheRun) {
+  const TestHome home;
+  const Launcher launcher;
+  QProgressDialog* dialog = Dialog();
+  for (const bool isVisible : {false, true}) {
+    SCOPED_TRACE(isVisible ? "the dialog is visible" : "the dialog is hidden");
+    dialog->setVisible(isVisible);
+
+    QEvent quit(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &quit);
+    EXPECT_FALSE(quit.isAccepted());
+
+    QCloseEvent closeAll;
+    QCoreApplication::sendEvent(qApp, &closeAll);
+    EXPECT_FALSE(closeAll.isAccepted());
+
+    QCloseEvent closeDialog;
+    QCoreApplication::sendEvent(dialog, &closeDialog);
+    EXPECT_FALSE(closeDialog.isAccepted());
+
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(dialog, &escape);
+    EXPECT_EQ(dialog->isVisible(), isVisible);
+  }
 }
 
 // Nothing can be installed here: the bundle beside the test has no package. The run comes to its

@@ -3,31 +3,63 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <filesystem>
 #include <string>
+#include <vector>
 
 #include "mac/mac-service.h"
 #include "support/test-home.h"
-#include "support/tree.h"
 
-static std::string signals_sent;  // a SIGTERM to 1234 is "1234:15 "
+namespace {
 
-// Nothing that a test writes into a pid file may reach a real process.
-extern "C" int kill(pid_t pid, int signal) {
-  signals_sent += std::to_string(pid) + ":" + std::to_string(signal) + " ";
-  errno = ESRCH;
+namespace fs = std::filesystem;
+
+struct Signal {
+  pid_t process;
+  int number;
+  bool operator==(const Signal& other) const {
+    return process == other.process && number == other.number;
+  }
+};
+
+void PrintTo(const Signal& sent, std::ostream* stream) {
+  *stream << "signal " << sent.number << " to " << sent.process;
+}
+
+std::vector<Signal> signals_sent;
+
+constexpr pid_t kGone = 1234;
+constexpr pid_t kStubborn = 5678;   // a process that no SIGTERM ends
+constexpr pid_t kForbidden = 4321;  // another user's
+
+// The signals to a process that is still there after each of the five probes.
+std::vector<Signal> WholeStop(pid_t process) {
+  std::vector<Signal> stop = {{process, SIGTERM}};
+  stop.insert(stop.end(), 5, {process, 0});
+  stop.push_back({process, SIGKILL});
+  return stop;
+}
+
+}  // namespace
+
+// Takes the place of the system's: nothing that a test writes into a pid file reaches a process.
+// Only some systems declare it noexcept.
+extern "C" int kill(pid_t pid, int signal) noexcept(noexcept(kill(pid, signal))) {
+  signals_sent.push_back({pid, signal});
+  if (pid == kStubborn) return 0;
+  errno = pid == kForbidden ? EPERM : ESRCH;
   return -1;
+}
+
+// Nor does a test wait for the seconds between two probes.
+extern "C" unsigned sleep(unsigned) {
+  return 0;
 }
 
 namespace {
 
-// The service with a package of one file, or one that fails then.
 struct TestService : MacService {
-  int ExtractPackage() override {
-    BuildTree(userAppPath.c_str(), ". new=");
-    return result;
-  }
   using MacService::targetVersion;
-  int result = 0;
 };
 
 class ServiceTest : public testing::Test {
@@ -38,66 +70,84 @@ class ServiceTest : public testing::Test {
   TestService service;
 };
 
+struct Versions {
+  const char* installed;  // the version file
+  const char* offered;    // the package's build
+  bool isNeeded;
+};
+
 TEST_F(ServiceTest, OnlyANewerBuildNeedsThePackage) {
-  BuildTree(Path("Lumivo.app"),
-            "Contents/MacOS Contents/MacOS/lumivo-drive-ui= Contents/Resources");
-  // The installed version file, the build of the package, and whether it is needed.
-  const std::tuple<std::string, const char*, bool> rows[] = {
+  const std::string program = Path("Lumivo.app/Contents/MacOS/lumivo-drive-ui");
+  fs::create_directories(Path("Lumivo.app/Contents/MacOS"));
+  fs::create_directories(Path("Lumivo.app/Contents/Resources"));
+  WriteFile(program, "");
+  const Versions rows[] = {
+      {"[Version]\nbuild_version=3487\n", "3488", true},
+      {"[Version]\nbuild_version=3487\n", "3487", false},
       {"[Version]\nbuild_version=3487\n", "999", false},
       {"[Version]\nbuild_version=12abc\n", "12", false},
       {"[Version]\nbuild_version=-5\n", "", true},
-      {"[Version]\nmajor_version=9\n[Other]\nbuild_version=9\n", "1", true}};
-  for (const auto& [installed, offered, needed] : rows) {
-    WriteFile(Path("Lumivo.app/Contents/Resources/INFO"), installed);
+      {"[Version]\nmajor_version=9\n[Other]\nbuild_version=9\n", "1", true},
+  };
+  for (const Versions& row : rows) {
+    WriteFile(Path("Lumivo.app/Contents/Resources/INFO"), row.installed);
     TestService run;
-    run.targetVersion.build_version = offered;
+    run.targetVersion.build_version = row.offered;
     run.PreUpgrade();
-    EXPECT_EQ(run.IsNeedUpgrade(), needed) << installed << " -> " << offered;
+    EXPECT_EQ(run.IsNeedUpgrade(), row.isNeeded) << row.installed << " -> " << row.offered;
   }
+  fs::remove(program);
+  EXPECT_TRUE(service.IsNeedUpgrade());
 }
 
-TEST_F(ServiceTest, AReplacementLeavesOneWholeBundleAndNothingOfItsOwn) {
-  BuildTree(Path(""), "Lumivo.app/old Lumivo.app_tmp/stale Lumivo.app_tmp1= Lumivo.app_tmp3");
-  EXPECT_EQ(service.PrepareUserEnv(), 0);
-  EXPECT_EQ(ListTree(home.folder / ".Lumivo"), "Lumivo.app/ Lumivo.app/new= Lumivo.app_tmp3/");
-  service.result = -7;
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-  EXPECT_EQ(ListTree(home.folder / ".Lumivo"), "Lumivo.app/ Lumivo.app/new= Lumivo.app_tmp3/");
-  for (const std::string number : {"", "1", "2", "3", "4", "5", "6", "7", "8", "9"}) {
-    BuildTree(Path("Lumivo.app_tmp" + number), "in/the/way");
-  }
-  const std::string before = ListTree(home.folder / ".Lumivo");
-  EXPECT_EQ(service.PrepareUserEnv(), -1);
-  EXPECT_EQ(ListTree(home.folder / ".Lumivo"), before);
-  EXPECT_TRUE(home.Logged("' at max retries, exiting\n"));
-}
+struct PidFile {
+  std::string text;
+  std::vector<Signal> sent;
+  std::string logged = {};
+};
 
-TEST_F(ServiceTest, OnlyTheOneProcessOfThePidFileIsSignalled) {
-  const auto sent = [this](const std::string& text) {
-    WriteFile(Path("ui.pid"), text);
+TEST_F(ServiceTest, SignalsOnlyTheOneProcessThatThePidFileNames) {
+  const std::string own = std::to_string(getpid());
+  const PidFile rows[] = {
+      {"pid=1234", {{kGone, SIGTERM}}},
+      {"pid = \"1234\" # the client\r\n", {{kGone, SIGTERM}}},
+      {"pid=5678", WholeStop(kStubborn)},
+      {"pid=4321", WholeStop(kForbidden), "kill: Operation not permitted (1)\n"},
+      {"pid=0", {}, "names no process to stop: '0'\n"},
+      {"pid=-1", {}, "names no process to stop: '-1'\n"},
+      {"pid=4294967295", {}, "names no process to stop: '4294967295'\n"},  // -1 in 32 bits
+      {"pid=4294968530", {}, "names no process to stop: '4294968530'\n"},  // 1234 in 32 bits
+      {"pid=99999999999999999999", {}, "names no process to stop: '99999999999999999999'\n"},
+      {"pid=abc", {}, "names no process to stop: 'abc'\n"},
+      {"pid=" + own, {}, "names no process to stop: '" + own + "'\n"},
+      {"pid=\"\"\n", {}},
+      {"", {}},
+      {"pid=1 2\n", {}, "Failed to read pid file '"},
+  };
+  for (const PidFile& row : rows) {
+    WriteFile(Path("ui.pid"), row.text);
     signals_sent.clear();
     service.StopService();
-    return signals_sent;
-  };
-  const std::string own = std::to_string(getpid());
-  EXPECT_EQ(sent("pid=1234"), "1234:15 ");
-  EXPECT_EQ(sent("pid = \"1234\" # the client\r\n"), "1234:15 ");
-  for (const std::string value :
-       {"0", "-1", "4294967295", "4294968530", "99999999999999999999", "abc", own.c_str()}) {
-    EXPECT_EQ(sent("pid=" + value + "\n"), "") << value;
-    EXPECT_TRUE(home.Logged("names no process to stop: '" + value + "'\n")) << home.Log();
+    EXPECT_EQ(signals_sent, row.sent) << row.text;
+    EXPECT_TRUE(home.Logged(row.logged)) << row.logged << "\n" << home.Log();
   }
-  for (const char* text : {"", "pid=\"\"\n", "pid=1 2\n"}) EXPECT_EQ(sent(text), "") << text;
 }
 
-TEST_F(ServiceTest, CopiesTreesAndReportsWhatItCannotCopy) {
-  BuildTree(Path("from"), "a/b a/b/f=data g=");
+TEST_F(ServiceTest, CopiesATree) {
+  fs::create_directories(Path("from/a/b"));
+  WriteFile(Path("from/a/b/f"), "data");
   EXPECT_EQ(service.FSCopyPath(Path("from"), Path("to")), 0);
-  EXPECT_EQ(ListTree(Path("to")), "a/ a/b/ a/b/f=data g=");
-  BuildTree(Path("from"), "a/dangling>nowhere");
-  for (const char* from : {"none", "from/g", "from"})
-    EXPECT_EQ(service.FSCopyPath(Path(from), Path("to/g/x")), -1);
-  EXPECT_EQ(service.FSCopyPath(Path("from"), Path("to3")), -1);
+  EXPECT_EQ(ReadFile(Path("to/a/b/f")), "data");
+}
+
+TEST_F(ServiceTest, ReportsWhatItCannotCopy) {
+  fs::create_directories(Path("from"));
+  WriteFile(Path("from/file"), "");
+  fs::create_symlink("nowhere", Path("from/dangling"));
+  EXPECT_EQ(service.FSCopyPath(Path("none"), Path("to")), -1);
+  EXPECT_EQ(service.FSCopyPath(Path("from/file"), Path("no/such/folder")), -1);
+  EXPECT_EQ(service.FSCopyPath(Path("from"), Path("from/file/to")), -1);
+  EXPECT_EQ(service.FSCopyPath(Path("from"), Path("to")), -1);
 }
 
 }  // namespace

@@ -6,9 +6,10 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMap>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTranslator>
-#include <utility>
+#include <cstdlib>
 
 #include "StrTable.h"
 #include "TavLocale.h"
@@ -21,12 +22,55 @@ namespace {
 constexpr int kRows = 523;
 constexpr int kTexts = 474;
 
-// The languages in the order of their ids, each with a locale that speaks it.
-const std::pair<const char*, const char*> kLanguages[] = {
+struct Language {
+  const char* code;
+  const char* locale;  // one that speaks it
+};
+
+// In the order of their ids.
+const Language kLanguages[] = {
     {"enu", "en_US"}, {"cht", "zh_TW"}, {"chs", "zh_CN"}, {"jpn", "ja_JP"}, {"deu", "de_DE"},
     {"krn", "ko_KR"}, {"fra", "fr_FR"}, {"ita", "it_IT"}, {"esn", "es_ES"}, {"ptb", "pt_BR"},
     {"rus", "ru_RU"}, {"dan", "da_DK"}, {"nor", "nb_NO"}, {"sve", "sv_SE"}, {"nld", "nl_NL"},
     {"plk", "pl_PL"}, {"hun", "hu_HU"}, {"ptg", "pt_PT"}, {"trk", "tr_TR"}, {"csy", "cs_CZ"}};
+
+// What a language's glossary decides and a pattern can see. Of marks, what belongs to others.
+struct Wording {
+  const char* languages;
+  const char* avoided;
+  const char* instead;
+};
+
+const Wording kWordings[] = {
+    {"csy dan deu esn fra ita nld nor plk rus sve trk", R"(\.\.\.)", "the one character …"},
+    {"chs cht hun jpn krn ptb ptg", "…", "three dots"},
+    {"deu", "[^\u00a0]…", "a no-break space before …"},
+    {"fra", "[^\u202f][;:!?»]|«[^\u202f]", "a narrow no-break space inside « » and before ; : ! ?"},
+    {"chs ita krn nld ptb ptg trk", "[\"„«»「」]", "“these”"},
+    {"cht jpn", "[\"“”„«»]", "「these」"},
+    {"csy deu", "[\"”«»「]", "„these“"},
+    {"hun plk", "[\"“«»「]", "„these”"},
+    {"dan sve", "[\"“„«»]", "”these”"},
+    {"esn fra nor rus", "[\"“”„]", "«these»"},
+    {"fra ita nld trk", "'", "the apostrophe ’"},
+    {"rus", "[Ёё]", "е"},
+    {"plk", R"(ł[ae]ś\b)", "nothing that shows the gender of the reader"},
+    {"ptb ptg", R"(Bem-vind[oa])", "Boas-vindas, for men and women"},
+    {"ptb", "[Ff]icheiro|[Ee]crã", "arquivo, tela"},
+    {"ptg", R"([Aa]rquivo|\b[Tt]ela\b)", "ficheiro, ecrã"},
+    {"fra", "[Aa]uthentification", "ouverture de session"},
+    {"krn", "연결 해제", "연동 해제: to unlink is not to disconnect"},
+    {"csy", R"((?i)\b(instalac|verz|odebrán|oprav|spuštěn|aktualizac)\w* Lumivo)",
+     "aplikace before the name where it would need an ending"},
+    {"plk",
+     R"((?i)\b(\w*instal|wersj|usuni|napraw|uruchomieni|aktualizacj)\w* Lumivo|(dla|w) Lumivo)",
+     "aplikacja before the name where it would need an ending"},
+};
+
+// The dialog, page, menu or list that a row belongs to; a tab's name stands outside its page.
+const char kDialog[] =
+    "^(msi_\\w+_dlg|msi_button|manage_(?:option|proxy|setting|share)|history|sharing|tray|session|"
+    "selective_sync|context_menu|conn_mode|conflict_policy|status_desc|tutorial)_(?!tab_name$)";
 
 // A catalog as it is built in, in use for as long as it lives.
 struct Catalog : QTranslator {
@@ -36,21 +80,63 @@ struct Catalog : QTranslator {
   }
 };
 
+QString Read(const QString& path) {
+  return QString::fromStdString(ReadFile(path.toStdString()));
+}
+
+// By id, from the table's source: the program itself never asks for a key.
+QStringList Keys() {
+  const QString table = Read(LUMIVO_STR_TABLE);
+  QStringList keys;
+  for (auto row = QRegularExpression("Row\\(\\d+, \"(\\w+)").globalMatch(table); row.hasNext();)
+    keys << row.next().captured(1);
+  return keys;
+}
+
+// What the English names of months and days are called in `locale`.
+QMap<QString, QString> Dates(const QLocale& locale) {
+  const QLocale english("en_US");
+  QMap<QString, QString> dates;
+  for (int i = 1; i <= 12; ++i)
+    dates[english.standaloneMonthName(i)] = locale.standaloneMonthName(i);
+  for (int i = 1; i <= 7; ++i) dates[english.standaloneDayName(i)] = locale.standaloneDayName(i);
+  return dates;
+}
+
 TEST(Texts, AreFoundByKeyAndUnescapedAndFallBackToEnglish) {
-  const std::pair<const char*, int> ids[] = {
-      {"APP_NAME", 116}, {"app_name ", -1}, {"tutorial_third_title", 522}};
-  for (const auto& [key, id] : ids) EXPECT_EQ(StrTable::LookupStrID(key), id) << key;
+  const QStringList keys = Keys();
+  ASSERT_EQ(keys.size(), kRows);
+  for (int id = 0; id < kRows; ++id) EXPECT_EQ(StrTable::LookupStrID(keys[id].toUpper()), id);
+  EXPECT_EQ(StrTable::LookupStrID("APP_NAME"), kTextAppName);
+  EXPECT_EQ(StrTable::LookupStrID("app_name "), -1);
 
   struct Translator : QTranslator {
     QString translate(const char* context, const char* source, const char*, int) const override {
-      return context == QByteArray("global") && source == QByteArray("Lumivo Drive")
-                 ? "a\\nb\\tc\\r%1"
-                 : QString();
+      if (context != QByteArray("global")) return QString();
+      return source == QByteArray("Lumivo Drive") ? "a\\nb\\tc\\r%1" : QString();
     }
   } translator;
   QCoreApplication::installTranslator(&translator);
   EXPECT_EQ(StrTable::LoadStr(kTextAppName), QStringLiteral("a\nb\tc\\r%1"));
   EXPECT_EQ(StrTable::LoadStr(kTextReady), QStringLiteral("Lumivo Drive is ready."));
+}
+
+// Each in a process of its own: Qt reads the system's locale once.
+TEST(Texts, EveryLanguageIsChosenByItsLocale) {
+  testing::FLAGS_gtest_death_test_style = "threadsafe";
+  QStringList codes;
+  for (const Language& language : kLanguages) {
+    EXPECT_EQ(TavLocale::getLanguageAbbrByID(codes.size()), language.code);
+    codes << language.code;
+    qputenv("LC_ALL", language.locale);
+    EXPECT_EXIT(std::exit(TavLocale::getDefaultLanguage() == language.code ? 0 : 1),
+                testing::ExitedWithCode(0), "")
+        << language.locale << " does not lead to " << language.code;
+  }
+  qunsetenv("LC_ALL");
+  EXPECT_EQ(TavLocale::getSupportedLanguages(), codes);
+  EXPECT_EQ(TavLocale::getLanguageAbbrByID(-1), QString());
+  EXPECT_EQ(TavLocale::getLanguageAbbrByID(codes.size()), QString());
 }
 
 TEST(Texts, EveryCatalogTranslatesEveryTextOfTheTable) {
@@ -59,51 +145,75 @@ TEST(Texts, EveryCatalogTranslatesEveryTextOfTheTable) {
   EXPECT_EQ(sources.size(), kTexts);
 
   // Names, and words that a language took over as they are: a line "CODE TEXT" each.
-  const QStringList loanWords = QString::fromStdString(ReadFile(LUMIVO_LOAN_WORDS)).split('\n');
-  QStringList codes;
+  const QStringList loanWords = Read(LUMIVO_LOAN_WORDS).split('\n');
   for (const auto& [code, locale] : kLanguages) {
     SCOPED_TRACE(code);
     const Catalog catalog(code);
-    EXPECT_EQ(TavLocale::getLanguageAbbrByID(codes.size()), code);
-    codes << code;
     // What the catalog itself says of its texts is lost when it is built in.
-    const QString file =
-        QString::fromStdString(ReadFile(LUMIVO_CATALOGS "/" + std::string(code) + ".ts"));
+    const QString file = Read(QStringLiteral(LUMIVO_CATALOGS "/%1.ts").arg(code));
     EXPECT_EQ(file.count("<message>"), kTexts);
     EXPECT_FALSE(file.contains(" type=")) << "something is unfinished or vanished";
-    const QLocale english("en_US"), own(locale);
-    QMap<QString, QString> dates;
-    for (int i = 1; i <= 12; ++i)
-      dates[english.standaloneMonthName(i)] = own.standaloneMonthName(i);
-    for (int i = 1; i <= 7; ++i) dates[english.standaloneDayName(i)] = own.standaloneDayName(i);
+    const bool isEnglish = code == TavLocale::getStrLanguageFallSafe();
+    const QMap<QString, QString> dates = Dates(QLocale(locale));
     for (const QString& source : sources) {
       SCOPED_TRACE(qPrintable(source));
       const QString text = catalog.translate("global", source.toUtf8());
-      EXPECT_FALSE(text.isEmpty());
+      ASSERT_FALSE(text.isEmpty());
       EXPECT_EQ(text, text.trimmed());
       for (const char* mark : {"%", "%1", "%2", "\\n", "\\t"})
         EXPECT_EQ(text.count(mark), source.count(mark)) << mark;
       if (dates.contains(source)) {
-        EXPECT_EQ(text.toLower(), dates[source].toLower())
-            << qPrintable(text + " is not " + dates[source]);
-      } else {
-        EXPECT_EQ(text == source, own == english || loanWords.contains(code + (' ' + source)))
-            << qPrintable(text);
+        EXPECT_EQ(text.toLower(), dates[source].toLower());
+        continue;
+      }
+      const bool isLoan = loanWords.contains(code + (' ' + source));
+      EXPECT_EQ(text == source, isEnglish || isLoan) << qPrintable(text);
+      if (source[0].isLower()) continue;
+      EXPECT_FALSE(text[0].isLower()) << "no capital: " << qPrintable(text);
+    }
+  }
+}
+
+TEST(Texts, OfOneDialogDifferInEveryLanguage) {
+  const QStringList keys = Keys();
+  const QRegularExpression dialog(kDialog);
+  for (const auto& [code, locale] : kLanguages) {
+    const Catalog catalog(code);
+    QMap<QString, QString> first;  // the key that came first, by dialog and text
+    for (int id = 0; id < kRows; ++id) {
+      const QString name = dialog.match(keys[id]).captured(1);
+      if (name.isEmpty()) continue;
+      QString& key = first[name + '\n' + StrTable::LoadStr(id)];
+      EXPECT_TRUE(key.isEmpty()) << code << ": " << qPrintable(keys[id] + " reads like " + key);
+      key = keys[id];
+    }
+  }
+}
+
+TEST(Texts, KeepToTheGlossaries) {
+  for (const auto& [code, locale] : kLanguages) {
+    const Catalog catalog(code);
+    for (const Wording& wording : kWordings) {
+      if (!QString(wording.languages).contains(code)) continue;
+      const QRegularExpression avoided(wording.avoided,
+                                       QRegularExpression::UseUnicodePropertiesOption);
+      ASSERT_TRUE(avoided.isValid()) << wording.avoided;
+      for (int id = 0; id < kRows; ++id) {
+        EXPECT_FALSE(StrTable::LoadStr(id).contains(avoided))
+            << code << ' ' << id << ": " << qPrintable(StrTable::LoadStr(id))
+            << "\ninstead: " << wording.instead;
       }
     }
   }
-  EXPECT_EQ(TavLocale::getSupportedLanguages(), codes);
-  EXPECT_EQ(TavLocale::getLanguageAbbrByID(-1) + TavLocale::getLanguageAbbrByID(codes.size()),
-            QString());
 }
 
 // With the dialog's own layout: what its label offers, and what the style leaves of a title bar's
 // 400 pixels.
 TEST(Texts, WhatTheDialogShowsFitsIntoItInEveryLanguage) {
   constexpr int kTitleButtonsAndIcon = 120;
-  for (const QString& code : TavLocale::getSupportedLanguages()) {
-    SCOPED_TRACE(qPrintable(code));
-    const Catalog catalog(code);
+  for (const Language& language : kLanguages) {
+    SCOPED_TRACE(language.code);
+    const Catalog catalog(language.code);
     ProcessingProgressDialog dialog;
     dialog.setCancelButton(nullptr);
     dialog.show();

@@ -6,12 +6,14 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
+#include <cstring>
 #include <memory>
 #include <set>
 #include <string>
 
 #include "StrTable.h"
+#include "file/real-path.h"
+#include "file/write-barrier.h"
 #include "notify-adapter.h"
 #include "text-ids.h"
 
@@ -36,16 +38,6 @@ struct WriterCloser {
 };
 using ArchiveWriter = std::unique_ptr<struct archive, WriterCloser>;
 
-struct Freer {
-  void operator()(char* text) const { free(text); }
-};
-
-// The path as the kernel sees it, every link followed; empty when it leads nowhere.
-std::string RealPath(const std::string& path) {
-  const std::unique_ptr<char, Freer> resolved(realpath(path.c_str(), nullptr));
-  return resolved ? resolved.get() : std::string();
-}
-
 bool IsLink(const std::string& path) {
   struct stat info = {};
   return lstat(path.c_str(), &info) == 0 && S_ISLNK(info.st_mode);
@@ -63,7 +55,7 @@ std::string ParentFolder(const std::string& path) {
 ///
 /// The file system itself is asked where a folder lies, so that links behind links, other spellings
 /// and names that the archive uses twice cannot deceive it. As long as the archive made no link,
-/// nothing is looked up.
+/// nothing is looked up, and later no folder twice.
 class LinkGuard {
  public:
   explicit LinkGuard(const std::string& folder) : folder_(folder) {}
@@ -72,19 +64,11 @@ class LinkGuard {
   /// own name belongs to the way; anything else is replaced, not followed.
   bool StaysInside(const std::string& path, bool isFolder) {
     if (!hasLinks_) return true;
-    std::string way = isFolder ? path : ParentFolder(path);
+    const std::string way =
+        isFolder ? path.substr(0, path.find_last_not_of('/') + 1) : ParentFolder(path);
     if (inside_.count(way) != 0) return true;
-
-    // What is missing is made by the writer, within the last folder that is there.
-    std::string resolved = RealPath(way);
-    for (std::string there = way; resolved.empty();) {
-      if (errno != ENOENT || IsLink(there) || there == "/") return false;
-      there = ParentFolder(there);
-      resolved = RealPath(there);
-    }
-    const bool inside = !root_.empty() && resolved.compare(0, root_.size(), root_) == 0 &&
-                        (resolved.size() == root_.size() || resolved[root_.size()] == '/');
-    if (inside) inside_.insert(std::move(way));
+    const bool inside = IsInKnownFolder(way) || LeadsInside(way);
+    if (inside) inside_.insert(way);
     return inside;
   }
 
@@ -99,11 +83,41 @@ class LinkGuard {
   }
 
  private:
+  // What lies in a folder that is inside is inside itself, unless it is a link. This takes one
+  // look, and LeadsInside() one for every folder on the way.
+  bool IsInKnownFolder(const std::string& way) const {
+    const size_t slash = way.rfind('/');
+    const bool isUp =
+        slash == std::string::npos || way.compare(slash, std::string::npos, "/..") == 0;
+    if (isUp || inside_.count(ParentFolder(way)) == 0) return false;
+    struct stat info = {};
+    return lstat(way.c_str(), &info) == 0 ? !S_ISLNK(info.st_mode) : errno == ENOENT;
+  }
+
+  bool LeadsInside(const std::string& way) const {
+    // What is missing is made by the writer, within the last folder that is there.
+    std::string resolved = RealPath(way);
+    for (std::string there = way; resolved.empty();) {
+      if (errno != ENOENT || IsLink(there) || there == "/") return false;
+      there = ParentFolder(there);
+      resolved = RealPath(there);
+    }
+    return !root_.empty() && resolved.compare(0, root_.size(), root_) == 0 &&
+           (resolved.size() == root_.size() || resolved[root_.size()] == '/');
+  }
+
   const std::string folder_;
   std::string root_;
   std::set<std::string> inside_;
   bool hasLinks_ = false;
 };
+
+// Why the last operation of either failed: by the first one's account, or else by the second's.
+const char* ErrorText(struct archive* first, struct archive* second = nullptr) {
+  const char* text = archive_error_string(first);
+  if (text == nullptr && second != nullptr) text = archive_error_string(second);
+  return text != nullptr ? text : "no reason given";
+}
 
 // A reader of `path`, opened; its error text tells what failed when the result is not ARCHIVE_OK.
 int Open(struct archive* reader, const ustring& path) {
@@ -124,8 +138,7 @@ ArchiveReader OpenForHeaders(const Extractor& extractor) {
     return nullptr;
   }
   if (Open(reader.get(), extractor.archive) != ARCHIVE_OK) {
-    LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n",
-              archive_error_string(reader.get()));
+    LOG_ERROR(kComponent, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.get()));
     return nullptr;
   }
   return reader;
@@ -137,11 +150,21 @@ bool HasItsDirectory(struct archive* opened, const ustring& path) {
   const bool isZip = (archive_format(opened) & ARCHIVE_FORMAT_BASE_MASK) == ARCHIVE_FORMAT_ZIP;
   if (!isZip || archive_filter_code(opened, 0) != ARCHIVE_FILTER_NONE) return true;
 
+  // This reader opens nothing without a directory. What is in it, the other one has read.
   const ArchiveReader reader(archive_read_new());
-  struct archive_entry* entry = nullptr;
   return reader && archive_read_support_format_zip_seekable(reader.get()) == ARCHIVE_OK &&
-         archive_read_open_filename(reader.get(), path.c_str(), kBlockSize) == ARCHIVE_OK &&
-         archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK;
+         archive_read_open_filename(reader.get(), path.c_str(), kBlockSize) == ARCHIVE_OK;
+}
+
+// Whether the name is that of the folder which it is put below: "", ".", "/./".
+bool NamesTheFolderItself(const char* name) {
+  while (*name != '\0') {
+    const size_t length = strcspn(name, "/");
+    if (length > 1 || (length == 1 && *name != '.')) return false;
+    name += length;
+    name += strspn(name, "/");
+  }
+  return true;
 }
 
 // Puts the entry, and the target when it is a hard link, below the folder.
@@ -152,52 +175,143 @@ void MoveBelow(const std::string& folder, struct archive_entry* entry, const cha
   }
 }
 
-bool MayWrite(LinkGuard* guard, struct archive_entry* entry) {
-  const bool isFolder = archive_entry_filetype(entry) == AE_IFDIR;
-  if (!guard->StaysInside(archive_entry_pathname(entry), isFolder)) return false;
-  // Data that follows a hard link is written into its target, and some systems link to what a link
-  // leads to.
+bool IsFolder(struct archive_entry* entry) {
+  return archive_entry_filetype(entry) == AE_IFDIR && archive_entry_hardlink(entry) == nullptr;
+}
+
+// Whether everything that writing the entry would change lies within the destination.
+bool StaysInside(LinkGuard* guard, struct archive_entry* entry) {
+  if (!guard->StaysInside(archive_entry_pathname(entry), IsFolder(entry))) return false;
   const char* target = archive_entry_hardlink(entry);
-  return target == nullptr || guard->StaysInside(target, true);
+  if (target == nullptr) return true;
+  // A hard link to a link is that link once more, wherever it leads. Data that comes with a hard
+  // link is written to where its target leads, and the mode is set there.
+  const bool hasData = archive_entry_size_is_set(entry) == 0 || archive_entry_size(entry) > 0;
+  return guard->StaysInside(target, hasData && archive_entry_filetype(entry) != AE_IFLNK);
 }
 
-// Reads the next entry and writes it. ARCHIVE_OK, ARCHIVE_EOF at the archive's end, or
-// ARCHIVE_FATAL, which is logged.
-int ExtractEntry(struct archive* reader, struct archive* writer, const std::string& folder,
-                 LinkGuard* guard) {
-  struct archive_entry* entry = nullptr;
-  const int header = archive_read_next_header(reader, &entry);
-  if (header == ARCHIVE_EOF) return ARCHIVE_EOF;
-  if (header != ARCHIVE_OK) {
-    LOG_ERROR(kComponent, "archive_read_next_header failed: '%s'\n", archive_error_string(reader));
-    return ARCHIVE_FATAL;
+// Reads the data of the current entry to its end, for what is wrong with it. ARCHIVE_OK when
+// nothing is.
+int CheckData(struct archive* reader) {
+  const void* buffer = nullptr;
+  size_t size = 0;
+  la_int64_t offset = 0;
+  int result = ARCHIVE_OK;
+  while (result == ARCHIVE_OK) {
+    result = archive_read_data_block(reader, &buffer, &size, &offset);
   }
-  const char* name = archive_entry_pathname(entry);
-  if (name == nullptr) {
-    LOG_ERROR(kComponent, "archive_entry_pathname failed");
-    return ARCHIVE_FATAL;
-  }
-  MoveBelow(folder, entry, name);
-  // A folder that its owner may not change could not be removed again, by a rollback or the next
-  // upgrade.
-  if (archive_entry_filetype(entry) == AE_IFDIR)
-    archive_entry_set_perm(entry, archive_entry_perm(entry) | S_IRWXU);
-
-  int result = ARCHIVE_FAILED;
-  if (MayWrite(guard, entry)) {
-    result = archive_read_extract2(reader, entry, writer);
-  } else {
-    archive_set_error(writer, EPERM, "the way to '%s' leads out of the destination",
-                      archive_entry_pathname(entry));
-  }
-  if (result != ARCHIVE_OK) {
-    LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", archive_error_string(writer));
-    return ARCHIVE_FATAL;
-  }
-  const bool symbolic = archive_entry_filetype(entry) == AE_IFLNK;
-  if (symbolic || archive_entry_hardlink(entry) != nullptr) guard->LinkWritten(symbolic);
-  return ARCHIVE_OK;
+  return result == ARCHIVE_EOF ? ARCHIVE_OK : result;
 }
+
+/// One way through an opened archive, from its first entry to its last.
+class Extraction {
+ public:
+  /// `total` is the number of entries; all else is the caller's, and outlives this.
+  Extraction(const Extractor& extractor, int total, struct archive* reader, struct archive* writer)
+      : archive_(extractor.archive),
+        total_(total),
+        reader_(reader),
+        writer_(writer),
+        folder_(FolderOf(extractor)),
+        guard_(folder_) {}
+
+  /// Extracts and reports every entry; 0, or -1, which is logged.
+  int Run() {
+    for (int done = 1;; ++done) {
+      const int result = ExtractNext(done);
+      if (result == ARCHIVE_EOF) break;
+      if (result != ARCHIVE_OK) return -1;
+
+      Notify_Adapter::GetInstance()->UpdateProgress(total_, done);
+      if (archive_write_finish_entry(writer_) != ARCHIVE_OK) {
+        LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n", ErrorText(writer_));
+        return -1;
+      }
+    }
+    if (isCut_) {
+      LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive_.c_str(),
+                "the directory at its end is missing");
+      return -1;
+    }
+    archive_write_close(writer_);  // some folders get their modes only now
+    return IsForcedToDisk() ? 0 : -1;
+  }
+
+ private:
+  // The writer replaces a link on the way of a hard link's target by a folder, so it gets a way
+  // without links.
+  static std::string FolderOf(const Extractor& extractor) {
+    const std::string resolved = RealPath(extractor.destination.c_str());
+    return resolved.empty() ? extractor.destination.c_str() : resolved;
+  }
+
+  // Reads the entry `number` and writes it. ARCHIVE_OK, ARCHIVE_EOF at the archive's end, or
+  // ARCHIVE_FATAL, which is logged.
+  int ExtractNext(int number) {
+    struct archive_entry* entry = nullptr;
+    const int header = archive_read_next_header(reader_, &entry);
+    if (header == ARCHIVE_EOF) return ARCHIVE_EOF;
+    if (header != ARCHIVE_OK) {
+      LOG_ERROR(kComponent, "archive_read_next_header failed: '%s'\n", ErrorText(reader_));
+      return ARCHIVE_FATAL;
+    }
+    if (archive_entry_pathname(entry) == nullptr) {
+      LOG_ERROR(kComponent, "archive_entry_pathname failed");
+      return ARCHIVE_FATAL;
+    }
+    if (number == total_ && !MayEnd(number)) return ARCHIVE_FATAL;
+
+    if ((isCut_ ? CheckData(reader_) : Write(entry)) == ARCHIVE_OK) return ARCHIVE_OK;
+    LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", ErrorText(writer_, reader_));
+    return ARCHIVE_FATAL;
+  }
+
+  // The last entry may be what says that all the others are there, so that it must be neither
+  // before them on the disk nor written at all when the archive is going to be refused. When it is
+  // the only one, there may be no folder yet.
+  bool MayEnd(int number) {
+    isCut_ = !HasItsDirectory(reader_, archive_);
+    return number == 1 || isCut_ || IsForcedToDisk();
+  }
+
+  // Any result but ARCHIVE_OK is a failure, with a text at the writer or else at the reader.
+  int Write(struct archive_entry* entry) {
+    const char* name = archive_entry_pathname(entry);
+    if (NamesTheFolderItself(name) && !IsFolder(entry)) {
+      archive_set_error(writer_, EPERM, "'%s' would take the place of the destination", name);
+      return ARCHIVE_FAILED;
+    }
+    MoveBelow(folder_, entry, name);
+    if (!StaysInside(&guard_, entry)) {
+      archive_set_error(writer_, EPERM, "the way to '%s' leads out of the destination",
+                        archive_entry_pathname(entry));
+      return ARCHIVE_FAILED;
+    }
+    // A folder that its owner may not change could not be removed again, by a rollback or the next
+    // upgrade.
+    if (IsFolder(entry)) archive_entry_set_perm(entry, archive_entry_perm(entry) | S_IRWXU);
+    const int result = archive_read_extract2(reader_, entry, writer_);
+    if (result != ARCHIVE_OK) return result;
+    const bool symbolic = archive_entry_filetype(entry) == AE_IFLNK;
+    if (symbolic || archive_entry_hardlink(entry) != nullptr) guard_.LinkWritten(symbolic);
+    return ARCHIVE_OK;
+  }
+
+  bool IsForcedToDisk() const {
+    if (WriteBarrier(folder_.c_str()) == 0) return true;
+    LOG_ERROR(kComponent, "failed to force '%s' to the disk: %s (%d)\n", folder_.c_str(),
+              strerror(errno), errno);
+    return false;
+  }
+
+  const ustring& archive_;
+  const int total_;
+  struct archive* const reader_;
+  struct archive* const writer_;
+  const std::string folder_;
+  LinkGuard guard_;
+  bool isCut_ = false;  // a zip without the directory at its end
+};
 
 }  // namespace
 
@@ -224,32 +338,10 @@ int Extractor::Extract() {
   archive_write_disk_set_options(writer.get(), kWriterOptions);
   if (Open(reader.get(), archive) != ARCHIVE_OK) {
     LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive.c_str(),
-              archive_error_string(reader.get()));
+              ErrorText(reader.get()));
     return -1;
   }
-
-  // The writer replaces a link on the way of a hard link's target by a folder, so it gets a way
-  // without links.
-  const std::string resolved = RealPath(destination.c_str());
-  const std::string folder = resolved.empty() ? destination.c_str() : resolved;
-  LinkGuard guard(folder);
-  for (int done = 1;; ++done) {
-    const int result = ExtractEntry(reader.get(), writer.get(), folder, &guard);
-    if (result == ARCHIVE_EOF) return 0;
-    if (result != ARCHIVE_OK) return -1;
-    if (done == 1 && !HasItsDirectory(reader.get(), archive)) {
-      LOG_ERROR(kComponent, "Failed to read file '%s' ('%s')\n", archive.c_str(),
-                "the directory at its end is missing");
-      return -1;
-    }
-
-    Notify_Adapter::GetInstance()->UpdateProgress(total, done);
-    if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
-      LOG_ERROR(kComponent, "archive_write_finish_entry failed: '%s'\n",
-                archive_error_string(writer.get()));
-      return -1;
-    }
-  }
+  return Extraction(*this, total, reader.get(), writer.get()).Run();
 }
 
 int Extractor::Count() {
@@ -291,12 +383,11 @@ int Extractor::copy_data(struct archive* reader, struct archive* writer) {
     const int result = archive_read_data_block(reader, &buffer, &size, &offset);
     if (result == ARCHIVE_EOF) return 0;
     if (result != ARCHIVE_OK) {
-      LOG_ERROR(kComponent, "archive_read_data_block failed: '%s'\n", archive_error_string(reader));
+      LOG_ERROR(kComponent, "archive_read_data_block failed: '%s'\n", ErrorText(reader));
       return -1;
     }
     if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
-      LOG_ERROR(kComponent, "archive_write_data_block failed: '%s'\n",
-                archive_error_string(writer));
+      LOG_ERROR(kComponent, "archive_write_data_block failed: '%s'\n", ErrorText(writer));
       return -1;
     }
   }

@@ -4,12 +4,16 @@
 
 struct archive;
 
-/// Unpacks the package archive into a folder, entry by entry, with progress through Notify_Adapter.
+/// Unpacks the package archive into a folder, entry by entry.
 ///
 /// Fill both fields, then call any operation, each as often as wanted: no archive stays open
 /// between calls. All formats and filters of libarchive are read. Every failure is logged under
 /// "extractor_debug" and reported as -1; what was written before it stays on disk, for the caller
-/// to roll back. Blocks its thread; touches no UI.
+/// to roll back.
+///
+/// Of the interface it knows two things: the one text that the dialog shows while it works, which
+/// it takes from the string table, and Notify_Adapter, through which the text and the progress go.
+/// Whether anybody listens makes no difference. Runs on any thread, and blocks it.
 class Extractor {
  public:
   ustring destination;  ///< the folder that entries are written below; it need not exist
@@ -20,10 +24,16 @@ class Extractor {
   ///
   /// Nothing is written outside `destination`: absolute names and the targets of hard links are put
   /// below it, names with ".." are refused, and so is an entry whose way leads out of it through a
-  /// symbolic link. Links themselves are extracted as they are. Owners, times, ACLs and extended
-  /// attributes are not restored; modes are, less the umask, and with all rights of the owner on
-  /// folders, so that the tree can be removed again. A zip without the directory at its end is
-  /// refused: it could be read from the front, but its modes and links would be lost.
+  /// symbolic link. Links themselves are extracted as they are, and so are hard links to them. An
+  /// entry that names the destination itself is a folder, or refused. Owners, times, ACLs and
+  /// extended attributes are not restored; modes are, less the umask, and with all rights of the
+  /// owner on folders, so that the tree can be removed again. A zip without the directory at its
+  /// end is refused once its end is reached, and its last entry is not written: it could be read
+  /// from the front, but its modes and links would be lost.
+  ///
+  /// A power cut at any moment leaves either all entries or not the last one: the others are on the
+  /// disk before it is written. It is there too before the result is 0, so that what it replaces
+  /// can be removed then.
   ///
   /// @return 0, or -1 for the first entry that cannot be read or written in full, a warning
   /// included

@@ -1,15 +1,11 @@
 #include "launcher.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <cerrno>
 #include <climits>
 
 #include "StrTable.h"
+#include "installation-lock.h"
 #include "mac/mac-service.h"
 #include "notify-adapter.h"
 #include "progress-dialog.h"
@@ -21,32 +17,6 @@
 namespace {
 
 const ustring kComponent = "launcher_debug";
-
-constexpr int kTurnProbes = 600;
-constexpr unsigned kTurnProbeMilliseconds = 100;
-
-// The turn of one launcher to work on the per-user installation. Copies of it at other paths are
-// instances of their own but share that; whoever comes second sees what the first has installed.
-// Nobody waits longer than a minute, and where the folder cannot be locked nobody waits at all: a
-// client that starts is worth more than the order.
-class Turn {
- public:
-  explicit Turn(const ustring& folder)
-      : fd_(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-    for (int probe = 0; probe < kTurnProbes && fd_ >= 0; ++probe) {
-      if (flock(fd_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) return;
-      QThread::msleep(kTurnProbeMilliseconds);
-    }
-  }
-  Turn(const Turn&) = delete;
-  Turn& operator=(const Turn&) = delete;
-  ~Turn() {
-    if (fd_ >= 0) close(fd_);
-  }
-
- private:
-  const int fd_;
-};
 
 }  // namespace
 
@@ -80,7 +50,14 @@ void Worker::JoinThread() {
 
 void Worker::HandleServicce() {
   LOG_DEBUG(kComponent, "running\n");
-  const Turn turn(Service::GetUserLumivoInstallPath());
+  InstallationLock lock(Service::GetUserLumivoInstallPath());
+  // Where another launcher keeps the installation, that one starts the client.
+  if (lock.Acquire()) Serve();
+  LOG_DEBUG(kComponent, "done\n");
+  emit sigServiceDone();
+}
+
+void Worker::Serve() {
   service->PreUpgrade();
 
   if (!service->IsNeedUpgrade()) {
@@ -97,14 +74,12 @@ void Worker::HandleServicce() {
 
   service->RemoveAgedFolders();
   service->PostUpgrade();
-  LOG_DEBUG(kComponent, "done\n");
-  emit sigServiceDone();
 }
 
 Launcher::Launcher() : worker(new Worker), dialog(new ProcessingProgressDialog) {
   dialog->setCancelButton(nullptr);
   dialog->setAutoReset(false);
-  dialog->installEventFilter(this);
+  QCoreApplication::instance()->installEventFilter(this);
 
   connect(this, SIGNAL(sigStart()), worker, SLOT(HandleServicce()));
   connect(worker, SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox()));
@@ -131,15 +106,25 @@ void Launcher::Start() {
 }
 
 bool Launcher::eventFilter(QObject* watched, QEvent* event) {
-  const bool closes = event->type() == QEvent::Close ||
-                      (event->type() == QEvent::KeyPress &&
-                       static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel));
-  if (watched != dialog || !closes) return QObject::eventFilter(watched, event);
+  if (!WouldEndTheRun(watched, event)) return QObject::eventFilter(watched, event);
   event->ignore();
   return true;
 }
 
+// Hiding the last window ends the event loop, and so does quitting the application: the Quit
+// command of a menu or the Dock, or the end of the session.
+bool Launcher::WouldEndTheRun(const QObject* watched, QEvent* event) const {
+  if (watched == QCoreApplication::instance()) {
+    return event->type() == QEvent::Quit || event->type() == QEvent::Close;
+  }
+  if (watched != dialog) return false;
+  return event->type() == QEvent::Close ||
+         (event->type() == QEvent::KeyPress &&
+          static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel));
+}
+
 void Launcher::LaunchDone() {
+  QCoreApplication::instance()->removeEventFilter(this);
   dialog->setValue(100);
   dialog->hide();
   worker->QuitThread();

@@ -50,10 +50,13 @@ class Worker : public QObject {
 
  private slots:
   /// One run: upgrades the per-user installation when it needs the package, cleans up, starts the
-  /// client. Whatever fails on the way is logged, and the client is started all the same.
+  /// client. Whatever fails on the way is logged, and the client is started all the same. Only when
+  /// another launcher keeps the installation is all of that left to it.
   void HandleServicce();
 
  private:
+  void Serve();
+
   HandlerThread* thread;
   Service* service;
 };
@@ -62,8 +65,8 @@ class Worker : public QObject {
 /// thread only.
 ///
 /// Run(), then Start(), then the application's event loop, which the Launcher ends once the worker
-/// is done. Until then the dialog cannot be closed: neither Escape nor the window system's close
-/// button hides it, since hiding the last window would end the event loop under the running worker.
+/// is done. Until then nothing else ends it: the dialog refuses Escape and the close button, and
+/// the application refuses QEvent::Quit and QEvent::Close, whether the dialog is visible or not.
 class Launcher : public QObject {
   Q_OBJECT
 
@@ -82,7 +85,7 @@ class Launcher : public QObject {
   void sigStart();
 
  protected:
-  /// Swallows what would close the dialog.
+  /// Sees every event of the application, and refuses those that would end the run.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private slots:
@@ -99,6 +102,8 @@ class Launcher : public QObject {
   void ShowMsgBox();
 
  private:
+  bool WouldEndTheRun(const QObject* watched, QEvent* event) const;
+
   Worker* worker;
   ProcessingProgressDialog* dialog;
 };

@@ -1,18 +1,7 @@
 #pragma once
 
 #include "ustring.h"
-
-/// The version texts of a version file, group "Version". A key that is missing leaves its field as
-/// it was.
-struct VerInfo {
-  ustring major_version;         ///< told in the log only
-  ustring minor_version;         ///< told in the log only
-  ustring build_version;         ///< the only one that decides; read as a decimal integer
-  ustring icon_overlay_version;  ///< told in the log only
-};
-
-/// The build number that decides; 0 where the text is empty or begins with no number.
-int BuildNumber(const VerInfo& version);
+#include "version-file.h"
 
 /// The places of a package that lies beside the launcher's executable, UTF-8. Nothing is looked up
 /// on disk. Needs the application object.
@@ -32,21 +21,6 @@ struct PackageInfo {
 /// One object serves one run, on one thread: PreUpgrade(), IsNeedUpgrade(), HandlePackageUpgrade()
 /// only when that was true, then always RemoveAgedFolders() and PostUpgrade(). Failures are logged
 /// under "service_debug".
-///
-/// The bundle at the per-user path passes through these states; each step is one rename, or
-/// harmless when cut short:
-///
-/// | state | on disk |
-/// |---|---|
-/// | old | Lumivo.app |
-/// | aside | a backup, Lumivo.app_tmp or _tmp1 to _tmp9 |
-/// | extracting | the backup and a partial Lumivo.app |
-/// | new | the backup and the new Lumivo.app, then that alone |
-///
-/// A failure goes back to the old state. After an interruption the next start finds the client
-/// missing, or, since the version file comes last in a package, at build 0, and extracts it anew;
-/// when that fails, the complete backup with the highest build number goes back, whichever run made
-/// it. A removal is never what leaves a part that looks complete.
 class Service {
  public:
   Service() = default;
@@ -86,9 +60,8 @@ class Service {
   /// without keys.
   virtual void LoadTargetVersion();
 
-  /// Moves the per-user bundle aside to the first free backup name, extracts the package, and
-  /// removes the backups up to that name, or moves a backup back when the extraction fails: the one
-  /// just made, or after an interrupted run the complete one. 0; -1 on failure.
+  /// Replaces the per-user bundle with the package (BundleSwap), or puts the old one back when the
+  /// extraction fails. 0; -1 on failure.
   virtual int PrepareUserEnv();
 
   /// Removes the application folder of an older per-user layout, where there is one.
@@ -120,8 +93,5 @@ class Service {
   VerInfo sourceVersion;
 
  private:
-  bool MoveAside(ustring* backup, int* index);
-  ustring BestBackup(const ustring& made) const;
-  void Rollback(const ustring& made);
   int CopyFolder(const ustring& src, const ustring& dst);
 };

@@ -5,14 +5,15 @@
 #include <clocale>
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 #include "StrTable.h"
 #include "TavLocale.h"
+#include "bundle-layout.h"
 #include "launcher.h"
 #include "lumivo-service.h"
-#include "mac/launch-services.h"
+#include "own-time-zone.h"
+#include "qt-text.h"
 #include "qtsingleapplication.h"
 
 #define LOG_UNIT "main"
@@ -38,9 +39,9 @@ void SetPluginFolder(const char* program) {
 // Without a log folder the Logger keeps its initial state, and the launcher does its work all the
 // same.
 void OpenLog() {
-  const ustring levels = Service::GetRootLumivoInstallPath() + "/log/launcher.debug";
+  const ustring levels = Service::GetRootLumivoInstallPath() + kLogLevels;
   const ustring folder = Service::GetUserLumivoInstallPath() + "/log";
-  if (!QDir().mkpath(QString::fromUtf8(folder.c_str()))) return;
+  if (!QDir().mkpath(ToQt(folder))) return;
   Logger::Initialize(Logger::TYPE_FILE, folder + "/launcher.log", levels, kRotateCount);
 }
 
@@ -71,7 +72,7 @@ int Run(QtSingleApplication* app) {
 
 int main(int argc, char** argv) {
   setlocale(LC_ALL, "");
-  setenv("TZ", kOwnTimeZone, 0);
+  SetOwnTimeZone();
   // Nothing may end an upgrade half-way, with the client away: neither a line that nobody reads,
   // nor the session's end, nor a limit on the size of files, which makes the write fail anyhow.
   for (const int number : {SIGPIPE, SIGHUP, SIGTERM, SIGXFSZ}) signal(number, SIG_IGN);

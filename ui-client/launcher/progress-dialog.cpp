@@ -4,7 +4,9 @@
 #include <QIcon>
 
 #include "StrTable.h"
+#include "bundle-layout.h"
 #include "lumivo-service.h"
+#include "qt-text.h"
 #include "text-ids.h"
 
 namespace {
@@ -12,8 +14,7 @@ namespace {
 constexpr int kWidthPixels = 400;
 
 QString IconPath() {
-  return QString::fromUtf8(Service::GetRootLumivoResourceInstallPath().c_str()) +
-         QStringLiteral("/images/ico_72_lumivo.png");
+  return ToQt(Service::GetRootLumivoResourceInstallPath() + kIcon);
 }
 
 }  // namespace

@@ -5,10 +5,7 @@
 #include "mac/launch-services.h"
 
 int UnregisterBundle(const QString& bundle) {
-  return QProcess::execute(
-      QStringLiteral("/System/Library/Frameworks/CoreServices.framework/Frameworks/"
-                     "LaunchServices.framework/Support/lsregister"),
-      {QStringLiteral("-u"), bundle});
+  return QProcess::execute(QLatin1String(kRegistrationTool), {QStringLiteral("-u"), bundle});
 }
 
 bool OpenBundle(const QString& bundle) {

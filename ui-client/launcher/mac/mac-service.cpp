@@ -3,14 +3,15 @@
 #include <signal.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
 
+#include "bundle-layout.h"
 #include "file/file-op.h"
 #include "mac/launch-services.h"
+#include "qt-text.h"
 
 #define LOG_UNIT "mac/mac-service"
 #include "log.h"
@@ -125,14 +126,13 @@ void MacService::LoadTargetVerInfo() {
 }
 
 bool MacService::PerUserBinPathExist() {
-  const ustring path = userAppPath + "/" + "Contents/MacOS" + "/" + "lumivo-drive-ui";
-  return access(path.c_str(), F_OK) == 0;
+  return access((userAppPath + kClientProgram).c_str(), F_OK) == 0;
 }
 
 int MacService::LaunchPerUserBin() {
-  const QString bundle = QDir::homePath() + QStringLiteral("/.Lumivo/Lumivo.app");
-  if (UnregisterBundle(bundle) != 0) {
-    LOG_ERROR(kComponent, "Cannot unregister bundle, %s", bundle.toUtf8().constData());
+  const ustring bundle = GetUserLumivoAppInstallPath();
+  if (UnregisterBundle(ToQt(bundle)) != 0) {
+    LOG_ERROR(kComponent, "Cannot unregister bundle, %s", bundle.c_str());
   }
-  return OpenBundle(bundle) ? 0 : -1;
+  return OpenBundle(ToQt(bundle)) ? 0 : -1;
 }

@@ -5,7 +5,7 @@
     <name>global</name>
     <message>
         <source>Select the local folder that you want to sync with your server.</source>
-        <translation>选择要与您的服务器同步的本地文件夹。</translation>
+        <translation>请选择要与您的服务器同步的本地文件夹。</translation>
     </message>
     <message>
         <source>Could not reach the ZephLink service. Check your network connection and try again.</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>Click here to update</source>
-        <translation>单击此处进行更新</translation>
+        <translation>单击此处更新</translation>
     </message>
     <message>
         <source>Folder path</source>
@@ -108,7 +108,7 @@
         <translation>正在测试连接...</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Lumivo Drive 安装程序</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>今天</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>安装程序已准备好在这台电脑上安装 Lumivo Drive。</translation>
     </message>
     <message>
@@ -172,7 +172,7 @@
         <translation>打开同步文件夹</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive 安装完成</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>此文件夹与其他同步任务的文件夹重叠。请选择其他文件夹。</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>无法列出您服务器上的文件夹。请检查网络连接，然后重试。</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>需要处理</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>您服务器的证书已更改。请先核对证书再继续。</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>更新失败。请稍后重试。</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>无法验证您服务器的证书。</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>恢复同步这些文件夹</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>这台电脑的磁盘已满。请释放一些空间以继续同步。</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>使用黑白托盘图标</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>部分内容填写有误。请更正后重试。</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>安装已中断。您的电脑未发生任何更改。</translation>
     </message>
     <message>
@@ -264,8 +264,8 @@
         <translation>删除</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
-        <translation>选择您服务器上的文件夹以及与其同步的本地文件夹。</translation>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
+        <translation>请选择您服务器上的文件夹，以及要与其同步的本地文件夹。</translation>
     </message>
     <message>
         <source>Status</source>
@@ -296,7 +296,7 @@
         <translation>文件类型</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>选择配置方式</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>语言</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>“%1”的同步已停止。请打开 Lumivo Drive 查看详细信息。</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>同步方向与此文件夹的权限不匹配。请选择其他方向。</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>同步方向与您对此文件夹的权限不匹配。请选择其他方向。</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>二月</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server 版本过旧。请在您的服务器上进行更新。</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>当前 Lumivo Drive Server 版本过旧。请在您的服务器上更新。</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>网络设置</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>安装程序正在应用您的选择。</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>在此处取消勾选的文件夹将从这台电脑上移除，但会保留在您的服务器上。</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>您服务器的磁盘已满。请在服务器上释放一些空间以继续同步。</translation>
     </message>
     <message>
@@ -468,12 +468,12 @@
         <translation>保存并复制链接</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
-        <translation>请输入您的服务器地址和账号。</translation>
+        <source>Enter your server&apos;s address and your account details.</source>
+        <translation>请输入您的服务器地址和账号信息。</translation>
     </message>
     <message>
-        <source>Let us get started</source>
-        <translation>让我们开始吧</translation>
+        <source>Let&apos;s get started</source>
+        <translation>开始使用</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
@@ -484,7 +484,7 @@
         <translation>前 %1 页</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>如果以后要安装 Lumivo Drive，请再次运行安装程序。</translation>
     </message>
     <message>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>此版本的 Lumivo Drive 对您的服务器来说过旧。请更新到 %1 或更高版本。</translation>
+        <translation>当前 Lumivo Drive 版本对您的服务器来说过旧。请更新到 %1 或更高版本。</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -524,7 +524,7 @@
         <translation>通过 ZephLink 连接</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>单击“安装”开始安装。单击“上一步”查看或更改您的选择。单击“取消”退出安装程序。</translation>
     </message>
     <message>
@@ -557,14 +557,14 @@
     </message>
     <message>
         <source>Choose what to sync with this computer and where to keep it.</source>
-        <translation>选择要与这台电脑同步的内容及其存放位置。</translation>
+        <translation>请选择要与这台电脑同步的内容及其存放位置。</translation>
     </message>
     <message>
         <source>Uploaded</source>
         <translation>已上传</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>您的访问权限已被撤销，同步的文件也已从这台电脑上移除。请联系管理员。</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>正在上传...</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>正在应用设置...</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>退出</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>单击“修复”开始修复。单击“上一步”查看您的选择。单击“取消”退出安装程序。</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>您无法写入此文件夹。请选择其他文件夹或更改其权限。</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>您无法写入此文件夹。请更改其权限或选择其他文件夹。</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,7 +684,7 @@
         <translation>自定义时长</translation>
     </message>
     <message>
-        <source>Watch the status</source>
+        <source>Check the sync status</source>
         <translation>随时了解同步状态</translation>
     </message>
     <message>
@@ -700,7 +700,7 @@
         <translation>文件</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>以下应用程序正在使用安装程序需要更新的文件：</translation>
     </message>
     <message>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Choose the folders, the sync direction and the sync rules yourself.</source>
-        <translation>自行选择文件夹、同步方向和同步规则。</translation>
+        <translation>请自行选择文件夹、同步方向和同步规则。</translation>
     </message>
     <message>
         <source>Repair the installed files</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>This folder is already synced by another cloud sync app. Select another folder to avoid conflicts.</source>
-        <translation>此文件夹已由其他云同步应用进行同步。请选择其他文件夹以避免冲突。</translation>
+        <translation>其他云同步应用已在同步此文件夹。请选择其他文件夹以避免冲突。</translation>
     </message>
     <message>
         <source>Size</source>
@@ -768,8 +768,8 @@
         <translation>服务器未接受该请求。请检查您输入的内容，然后重试。</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server 对这台电脑来说版本过旧。请在您的服务器上更新到 %1 或更高版本。</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>当前 Lumivo Drive Server 版本对这台电脑上的 Lumivo Drive 来说过旧。请在您的服务器上更新到 %1 或更高版本。</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>此文件夹已被某个备份任务使用。请选择其他文件夹。</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>这台电脑的磁盘已满。</translation>
     </message>
     <message>
@@ -852,8 +852,8 @@
         <translation>已锁定的文件</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>不关闭应用程序（之后必须重启电脑）</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>不关闭应用程序（稍后需要重启电脑）</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>恢复</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>单击“完成”退出安装程序。</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>正在使用的文件</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>安装程序提前结束</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>两个文件夹中的文件将会合并。</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>您服务器上的此文件夹已与这台电脑同步。\n再创建一个同步任务将占用双倍的磁盘空间。</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>安装已中断</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>错误</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>您的服务器屏蔽了这台电脑的地址。请联系管理员允许此地址访问。</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>打印</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>欢迎使用 Lumivo Drive 安装程序</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>此项的最大长度为 %1。</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>最多可输入 %1 个字符。</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -985,7 +985,7 @@
     </message>
     <message>
         <source>The shared folder &quot;%1&quot; is available on &quot;%2&quot;. Click here to sync it.</source>
-        <translation>“%2”上有可用的共享文件夹“%1”。单击此处进行同步。</translation>
+        <translation>“%2”上有可用的共享文件夹“%1”。单击此处即可同步。</translation>
     </message>
     <message>
         <source>Keyword</source>
@@ -1004,15 +1004,15 @@
         <translation>您放入同步文件夹的所有内容都会出现在您的服务器和其他电脑上。</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>安装程序可以更改、修复或移除 Lumivo Drive。单击“下一步”继续。</translation>
     </message>
     <message>
         <source>Select a folder on your server and a folder on this computer.</source>
-        <translation>选择您服务器上的文件夹和这台电脑上的文件夹。</translation>
+        <translation>请选择您服务器上的文件夹和这台电脑上的文件夹。</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>请输入代理服务器的地址和端口。</translation>
     </message>
     <message>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>Select what you want to do.</source>
-        <translation>选择您要执行的操作。</translation>
+        <translation>请选择您要执行的操作。</translation>
     </message>
     <message>
         <source>Home folders are turned off on your server. Ask your administrator to turn them on.</source>
@@ -1060,8 +1060,8 @@
         <translation>已准备好修复 Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>已过滤的文件</translation>
+        <source>Skipped files</source>
+        <translation>已跳过的文件</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>正在同步...</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>单击“移除”从这台电脑上移除 Lumivo Drive。单击“上一步”查看您的选择。单击“取消”退出安装程序。</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>欢迎再次使用 Lumivo Drive 安装程序</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>空间不足</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>正在加载共享文件夹...</translation>
     </message>
     <message>
@@ -1140,8 +1140,8 @@
         <translation>您服务器上的文件夹未挂载。请在服务器上挂载，然后重试。</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>用图标标记已过滤的文件</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>用图标标记已跳过的文件</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>下一步</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>内容不同的文件将保留两个版本。</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>无法列出此文件的版本。请检查您在服务器上的权限。</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>无法识别服务器的响应。请更新 Lumivo Drive，然后重试。</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>端口</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>在此地址发现了另一台服务器</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>七月</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>部分需要更新的文件正在使用中。</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>限制访问</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>安装程序将在这台电脑上安装 Lumivo Drive。单击“下一步”继续，或单击“取消”退出安装程序。</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@
         <translation>无法创建文件夹“%1”。请检查路径和您的权限。</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>安装程序因出错而结束。\n您的电脑未发生任何更改。</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>文件夹过滤</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>无法验证您服务器的证书。请在连接设置中检查证书。</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>此文件在两处同时被更改，两个版本均已保留。请删除您不需要的版本。</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>您服务器的证书已更改。请在连接设置中检查证书。</translation>
     </message>
     <message>
@@ -1296,8 +1296,8 @@
         <translation>您已选择从这台电脑上移除 Lumivo Drive。</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>无法监视网络驱动器上的更改。请选择本地磁盘上的文件夹。</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>无法检测网络驱动器上的更改。请选择本地磁盘上的文件夹。</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1341,7 +1341,7 @@
     </message>
     <message>
         <source>Do you want to stop syncing &quot;%1&quot; with &quot;%2&quot;?\nNo files will be deleted.</source>
-        <translation>要停止同步“%1”与“%2”吗？\n不会删除任何文件。</translation>
+        <translation>要停止“%1”与“%2”的同步吗？\n不会删除任何文件。</translation>
     </message>
     <message>
         <source>Change local folder</source>
@@ -1428,8 +1428,8 @@
         <translation>在右键菜单中显示 Lumivo Drive</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive 版本过旧。请在这台电脑上进行更新。</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>当前 Lumivo Drive 版本过旧。请在这台电脑上更新。</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1596,7 +1596,7 @@
         <translation>值</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>您未以管理员身份登录。Lumivo Drive 将仅为当前用户安装。\n要继续吗？</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>由于文件服务已关闭，无法创建链接。请联系管理员将其开启。</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>关闭应用程序，并在完成后尝试重新启动这些应用程序</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>不同步此文件夹</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>您服务器的证书已更改。\n除非您清楚原因，否则请勿继续。</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>刚刚</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>安装程序已准备好修复 Lumivo Drive。</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>您只能读取此文件夹。这台电脑上的更改将不会上传。</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>您无权访问此文件夹。请联系管理员获取权限。</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>您的文件正在同步。在此期间您可以继续工作。</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>无法验证您服务器的证书。\n除非您信任此网络，否则请勿继续。</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>待同步的文件：%1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>您的同步文件夹</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>无法验证您服务器的证书。请联系管理员获取有效的证书。</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>无法验证您服务器的证书。请联系管理员安装有效的证书。</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1761,7 +1761,7 @@
     </message>
     <message>
         <source>Continue anyway</source>
-        <translation>仍然继续</translation>
+        <translation>仍要继续</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -1776,7 +1776,7 @@
         <translation>本地文件上的图标</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>没有可用的操作</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>已禁用</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
         <translation>您的服务器仍在为“%1”建立索引，完成后即可同步。</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>文件在两处都被更改时</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>更改文件夹</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>使用推荐设置同步您的个人文件夹。</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>正在加载文件夹...</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>已准备好安装 Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>需要安装 Lumivo Drive 时，可随时再次运行安装程序。</translation>
     </message>
     <message>
@@ -1876,8 +1876,8 @@
         <translation>正在下载...</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>新语言将在下次启动 Lumivo Drive 后生效。</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>新语言将在下次启动 Lumivo Drive 时生效。</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,7 +1892,7 @@
         <translation>快速配置适合大多数用户。您可以稍后更改所有设置。</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>您服务器的磁盘已满。</translation>
     </message>
     <message>

@@ -5,7 +5,7 @@
     <name>global</name>
     <message>
         <source>Select the local folder that you want to sync with your server.</source>
-        <translation>選擇要與您的伺服器同步的本機資料夾。</translation>
+        <translation>請選擇要與您的伺服器同步的本機資料夾。</translation>
     </message>
     <message>
         <source>Could not reach the ZephLink service. Check your network connection and try again.</source>
@@ -108,7 +108,7 @@
         <translation>正在測試連線...</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Lumivo Drive 安裝程式</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>今天</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>安裝程式已準備好在這台電腦上安裝 Lumivo Drive。</translation>
     </message>
     <message>
@@ -172,7 +172,7 @@
         <translation>開啟同步資料夾</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive 已安裝完成</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>此資料夾與其他同步工作的資料夾重疊。請選擇其他資料夾。</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>無法列出您伺服器上的資料夾。請檢查網路連線，然後再試一次。</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>需要處理</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>您伺服器的憑證已變更。請先確認憑證再繼續。</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>更新失敗。請稍後再試。</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>無法驗證您伺服器的憑證。</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>恢復同步這些資料夾</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>這台電腦的磁碟已滿。請釋出一些空間以繼續同步。</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>使用黑白的系統匣圖示</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>部分欄位填寫不正確。請修正後再試一次。</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>安裝已中斷。您的電腦沒有任何變更。</translation>
     </message>
     <message>
@@ -264,8 +264,8 @@
         <translation>刪除</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
-        <translation>選擇您伺服器上的資料夾，以及要與其同步的本機資料夾。</translation>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
+        <translation>請選擇您伺服器上的資料夾，以及要與其同步的本機資料夾。</translation>
     </message>
     <message>
         <source>Status</source>
@@ -296,7 +296,7 @@
         <translation>檔案類型</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>選擇設定方式</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>語言</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>「%1」的同步已停止。請開啟 Lumivo Drive 查看詳細資料。</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>同步方向與此資料夾的權限不符。請選擇其他方向。</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>同步方向與您對此資料夾的權限不符。請選擇其他方向。</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>2月</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server 版本過舊。請在您的伺服器上更新。</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>目前的 Lumivo Drive Server 版本過舊。請在您的伺服器上更新。</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>網路設定</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>安裝程式正在套用您的選擇。</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>在此取消勾選的資料夾將從這台電腦移除，但會保留在您的伺服器上。</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>您伺服器的磁碟已滿。請在伺服器上釋出一些空間以繼續同步。</translation>
     </message>
     <message>
@@ -468,12 +468,12 @@
         <translation>儲存並複製連結</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
-        <translation>請輸入您伺服器的位址和您的帳號。</translation>
+        <source>Enter your server&apos;s address and your account details.</source>
+        <translation>請輸入您伺服器的位址和您的帳號資訊。</translation>
     </message>
     <message>
-        <source>Let us get started</source>
-        <translation>讓我們開始吧</translation>
+        <source>Let&apos;s get started</source>
+        <translation>開始使用</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
@@ -484,7 +484,7 @@
         <translation>前 %1 頁</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>若要在日後安裝 Lumivo Drive，請再次執行安裝程式。</translation>
     </message>
     <message>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>此版本的 Lumivo Drive 對您的伺服器而言過舊。請更新到 %1 或更新的版本。</translation>
+        <translation>目前的 Lumivo Drive 版本對您的伺服器而言過舊。請更新到 %1 或更新的版本。</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -524,8 +524,8 @@
         <translation>透過 ZephLink 連線</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
-        <translation>按一下「安裝」即可開始。按一下「上一步」檢視或變更您的選擇。按一下「取消」離開安裝程式。</translation>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
+        <translation>按一下「安裝」即可開始。按一下「上一步」檢視或變更您的選擇。按一下「取消」結束安裝程式。</translation>
     </message>
     <message>
         <source>Something went wrong. Try again later.</source>
@@ -557,14 +557,14 @@
     </message>
     <message>
         <source>Choose what to sync with this computer and where to keep it.</source>
-        <translation>選擇要與這台電腦同步的內容，以及存放的位置。</translation>
+        <translation>請選擇要與這台電腦同步的內容，以及存放的位置。</translation>
     </message>
     <message>
         <source>Uploaded</source>
         <translation>已上傳</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>您的存取權限已被撤銷，同步的檔案也已從這台電腦移除。請洽系統管理員。</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>正在上傳...</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>正在套用設定...</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>結束</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
-        <translation>按一下「修復」即可開始。按一下「上一步」檢視您的選擇。按一下「取消」離開安裝程式。</translation>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
+        <translation>按一下「修復」即可開始。按一下「上一步」檢視您的選擇。按一下「取消」結束安裝程式。</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>您無法寫入此資料夾。請選擇其他資料夾或變更其權限。</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>您無法寫入此資料夾。請變更其權限或選擇其他資料夾。</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,7 +684,7 @@
         <translation>自訂期間</translation>
     </message>
     <message>
-        <source>Watch the status</source>
+        <source>Check the sync status</source>
         <translation>掌握同步狀態</translation>
     </message>
     <message>
@@ -700,7 +700,7 @@
         <translation>檔案</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>下列應用程式正在使用安裝程式必須更新的檔案：</translation>
     </message>
     <message>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Choose the folders, the sync direction and the sync rules yourself.</source>
-        <translation>自行選擇資料夾、同步方向和同步規則。</translation>
+        <translation>請自行選擇資料夾、同步方向和同步規則。</translation>
     </message>
     <message>
         <source>Repair the installed files</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>This folder is already synced by another cloud sync app. Select another folder to avoid conflicts.</source>
-        <translation>此資料夾已由另一個雲端同步應用程式進行同步。請選擇其他資料夾以避免衝突。</translation>
+        <translation>另一個雲端同步應用程式已在同步此資料夾。請選擇其他資料夾以避免衝突。</translation>
     </message>
     <message>
         <source>Size</source>
@@ -768,8 +768,8 @@
         <translation>伺服器未接受此要求。請檢查您輸入的內容，然後再試一次。</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server 對這台電腦而言版本過舊。請在您的伺服器上更新到 %1 或更新的版本。</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>目前的 Lumivo Drive Server 版本對這台電腦上的 Lumivo Drive 而言過舊。請在您的伺服器上更新到 %1 或更新的版本。</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>此資料夾已用於備份工作。請選擇其他資料夾。</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>這台電腦的磁碟已滿。</translation>
     </message>
     <message>
@@ -852,8 +852,8 @@
         <translation>已鎖定的檔案</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>不要關閉應用程式（之後必須重新啟動電腦）</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>不要關閉應用程式（稍後必須重新啟動電腦）</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,8 +880,8 @@
         <translation>恢復</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
-        <translation>按一下「完成」離開安裝程式。</translation>
+        <source>Click Finish to exit Setup.</source>
+        <translation>按一下「完成」結束安裝程式。</translation>
     </message>
     <message>
         <source>Name</source>
@@ -904,7 +904,7 @@
         <translation>使用中的檔案</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>安裝程式提前結束</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>兩個資料夾中的檔案將會合併。</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>您伺服器上的此資料夾已與這台電腦同步。\n再建立一個同步工作將會佔用兩倍的磁碟空間。</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>安裝已中斷</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>錯誤</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>您的伺服器封鎖了這台電腦的位址。請洽系統管理員允許此位址連線。</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>列印</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>歡迎使用 Lumivo Drive 安裝程式</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>此欄位的長度上限為 %1。</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>最多可輸入 %1 個字元。</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1004,15 +1004,15 @@
         <translation>您放入同步資料夾的所有內容，都會出現在您的伺服器和其他電腦上。</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>安裝程式可以變更、修復或移除 Lumivo Drive。按一下「下一步」繼續。</translation>
     </message>
     <message>
         <source>Select a folder on your server and a folder on this computer.</source>
-        <translation>選擇您伺服器上的資料夾和這台電腦上的資料夾。</translation>
+        <translation>請選擇您伺服器上的資料夾和這台電腦上的資料夾。</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>請輸入代理伺服器的位址和連接埠。</translation>
     </message>
     <message>
@@ -1045,7 +1045,7 @@
     </message>
     <message>
         <source>Select what you want to do.</source>
-        <translation>選擇您要執行的作業。</translation>
+        <translation>請選擇您要執行的作業。</translation>
     </message>
     <message>
         <source>Home folders are turned off on your server. Ask your administrator to turn them on.</source>
@@ -1060,8 +1060,8 @@
         <translation>已準備好修復 Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>已篩除的檔案</translation>
+        <source>Skipped files</source>
+        <translation>已略過的檔案</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>正在同步...</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
-        <translation>按一下「移除」從這台電腦移除 Lumivo Drive。按一下「上一步」檢視您的選擇。按一下「取消」離開安裝程式。</translation>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
+        <translation>按一下「移除」從這台電腦移除 Lumivo Drive。按一下「上一步」檢視您的選擇。按一下「取消」結束安裝程式。</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>歡迎再次使用 Lumivo Drive 安裝程式</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>空間不足</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>正在載入共用資料夾...</translation>
     </message>
     <message>
@@ -1140,8 +1140,8 @@
         <translation>您伺服器上的資料夾尚未掛載。請在伺服器上掛載，然後再試一次。</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>以圖示標示已篩除的檔案</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>以圖示標示已略過的檔案</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>下一步</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>內容不同的檔案會保留兩個版本。</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>無法列出此檔案的版本。請檢查您在伺服器上的權限。</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>無法解讀伺服器的回應。請更新 Lumivo Drive，然後再試一次。</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>連接埠</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>在此位址找到另一台伺服器</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>7月</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>部分必須更新的檔案正在使用中。</translation>
     </message>
     <message>
@@ -1228,8 +1228,8 @@
         <translation>限制存取</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
-        <translation>安裝程式將在這台電腦上安裝 Lumivo Drive。按一下「下一步」繼續，或按一下「取消」離開安裝程式。</translation>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
+        <translation>安裝程式將在這台電腦上安裝 Lumivo Drive。按一下「下一步」繼續，或按一下「取消」結束安裝程式。</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1240,7 +1240,7 @@
         <translation>無法建立資料夾「%1」。請檢查路徑和您的權限。</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>安裝程式因發生錯誤而結束。\n您的電腦沒有任何變更。</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>資料夾篩選</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>無法驗證您伺服器的憑證。請在連線設定中檢查憑證。</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>此檔案同時在兩個位置被變更，兩個版本均已保留。請刪除您不需要的版本。</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>您伺服器的憑證已變更。請在連線設定中檢查憑證。</translation>
     </message>
     <message>
@@ -1296,8 +1296,8 @@
         <translation>您已選擇從這台電腦移除 Lumivo Drive。</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>無法監看網路磁碟機上的變更。請選擇本機磁碟上的資料夾。</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>無法偵測網路磁碟機上的變更。請選擇本機磁碟上的資料夾。</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1341,7 +1341,7 @@
     </message>
     <message>
         <source>Do you want to stop syncing &quot;%1&quot; with &quot;%2&quot;?\nNo files will be deleted.</source>
-        <translation>要停止同步「%1」與「%2」嗎？\n不會刪除任何檔案。</translation>
+        <translation>要停止「%1」與「%2」的同步嗎？\n不會刪除任何檔案。</translation>
     </message>
     <message>
         <source>Change local folder</source>
@@ -1428,8 +1428,8 @@
         <translation>在右鍵選單中顯示 Lumivo Drive</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive 版本過舊。請在這台電腦上更新。</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>目前的 Lumivo Drive 版本過舊。請在這台電腦上更新。</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1596,7 +1596,7 @@
         <translation>值</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>您不是以系統管理員身分登入。Lumivo Drive 只會為目前的使用者安裝。\n要繼續嗎？</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>檔案服務已關閉，因此無法建立連結。請洽系統管理員開啟此服務。</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>關閉應用程式，並在完成後嘗試重新啟動這些應用程式</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>不要同步此資料夾</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>您伺服器的憑證已變更。\n除非您知道原因，否則請勿繼續。</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>剛剛</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>安裝程式已準備好修復 Lumivo Drive。</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>您只能讀取此資料夾。這台電腦上的變更將不會上傳。</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>您沒有此資料夾的存取權限。請洽系統管理員取得權限。</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>您的檔案正在同步。在此期間您可以繼續工作。</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>無法驗證您伺服器的憑證。\n除非您信任此網路，否則請勿繼續。</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>尚待同步的檔案：%1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>您的同步資料夾</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>無法驗證您伺服器的憑證。請洽系統管理員取得有效的憑證。</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>無法驗證您伺服器的憑證。請洽系統管理員安裝有效的憑證。</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Follow these steps to link this computer to your server.</source>
-        <translation>依照下列步驟將這台電腦連結到您的伺服器。</translation>
+        <translation>請依照下列步驟將這台電腦連結到您的伺服器。</translation>
     </message>
     <message>
         <source>Proxy server</source>
@@ -1776,7 +1776,7 @@
         <translation>本機檔案上的圖示</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>沒有可用的動作</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>已停用</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
         <translation>您的伺服器仍在為「%1」建立索引，完成後即可同步。</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>檔案在兩個位置都被變更時</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>變更資料夾</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>以建議的設定同步您的個人資料夾。</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>正在載入資料夾...</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>已準備好安裝 Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>想要安裝 Lumivo Drive 時，隨時可以再次執行安裝程式。</translation>
     </message>
     <message>
@@ -1876,8 +1876,8 @@
         <translation>正在下載...</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>新語言將在下次啟動 Lumivo Drive 後生效。</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>新語言將在下次啟動 Lumivo Drive 時生效。</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,7 +1892,7 @@
         <translation>快速設定模式適合大多數使用者。您可以在日後變更所有設定。</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>您伺服器的磁碟已滿。</translation>
     </message>
     <message>

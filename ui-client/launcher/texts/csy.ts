@@ -108,15 +108,15 @@
         <translation>Testování připojení…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
-        <translation>Instalace Lumivo Drive</translation>
+        <source>Lumivo Drive Setup</source>
+        <translation>Instalace aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>Dnes</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Instalační program je připraven nainstalovat aplikaci Lumivo Drive do tohoto počítače.</translation>
     </message>
     <message>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>%1 d ago</source>
-        <translation>před %1 d</translation>
+        <translation>Před %1 d</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
@@ -172,7 +172,7 @@
         <translation>Otevřít synchronizovanou složku</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Aplikace Lumivo Drive byla nainstalována</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Tato složka se překrývá se složkou jiné úlohy synchronizace. Vyberte jinou složku.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Nepodařilo se načíst seznam složek na serveru. Zkontrolujte připojení k síti a zkuste to znovu.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Vyžaduje pozornost</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Certifikát serveru se změnil. Než budete pokračovat, zkontrolujte ho.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>Aktualizace se nezdařila. Zkuste to znovu později.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Certifikát serveru se nepodařilo ověřit.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Znovu synchronizovat tyto složky</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Disk tohoto počítače je plný. Chcete-li v synchronizaci pokračovat, uvolněte místo.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Používat černobílou ikonu v oznamovací oblasti</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Některá pole nejsou správně vyplněna. Opravte je a zkuste to znovu.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>Instalace byla přerušena. V počítači nebyly provedeny žádné změny.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@
         <translation>Odstranit</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>Zvolte složku na serveru a místní složku, se kterou se bude synchronizovat.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>Typ souboru</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Zvolte způsob nastavení</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Jazyk</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>Synchronizace „%1“ se zastavila. Podrobnosti zobrazíte otevřením aplikace Lumivo Drive.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>Směr synchronizace neodpovídá oprávněním k této složce. Zvolte jiný směr.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>Směr synchronizace neodpovídá vašim oprávněním k této složce. Zvolte jiný směr.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>únor</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Verze Lumivo Drive Server je příliš stará. Aktualizujte ji na serveru.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Tato verze aplikace Lumivo Drive Server je příliš stará. Aktualizujte ji na serveru.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>Nastavení sítě</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Instalační program provádí zvolené změny.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
-        <translation>Složky, jejichž zaškrtnutí zrušíte, budou z tohoto počítače odebrány. Na serveru zůstanou.</translation>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
+        <translation>Složky, jejichž zaškrtnutí zde zrušíte, budou z tohoto počítače odebrány. Na serveru zůstanou.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Disk serveru je plný. Chcete-li v synchronizaci pokračovat, uvolněte na něm místo.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Uložit a zkopírovat odkaz</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Zadejte adresu serveru a údaje svého účtu.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Začněme</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>O %1 str. zpět</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Chcete-li aplikaci Lumivo Drive nainstalovat později, spusťte instalační program znovu.</translation>
     </message>
     <message>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>Tato verze Lumivo Drive je pro váš server příliš stará. Aktualizujte ji na verzi %1 nebo novější.</translation>
+        <translation>Tato verze aplikace Lumivo Drive je pro váš server příliš stará. Aktualizujte ji na verzi %1 nebo novější.</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -524,12 +524,12 @@
         <translation>Připojovat se přes ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Začněte kliknutím na tlačítko Nainstalovat. Své volby zkontrolujete nebo změníte kliknutím na tlačítko Zpět. Instalaci ukončíte kliknutím na tlačítko Zrušit.</translation>
     </message>
     <message>
         <source>Something went wrong. Try again later.</source>
-        <translation>Něco se nezdařilo. Zkuste to znovu později.</translation>
+        <translation>Došlo k chybě. Zkuste to znovu později.</translation>
     </message>
     <message>
         <source>I accept the terms of the license agreement</source>
@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>Selective sync is not available yet. Update Lumivo Drive Server on your server to use it.</source>
-        <translation>Výběrová synchronizace zatím není k dispozici. Chcete-li ji používat, aktualizujte Lumivo Drive Server na serveru.</translation>
+        <translation>Výběrová synchronizace zatím není k dispozici. Chcete-li ji používat, aktualizujte na serveru aplikaci Lumivo Drive Server.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>Ready to remove Lumivo Drive</source>
-        <translation>Připraveno k odebrání Lumivo Drive</translation>
+        <translation>Připraveno k odebrání aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Choose what to sync with this computer and where to keep it.</source>
@@ -564,7 +564,7 @@
         <translation>Nahráno</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Váš přístup byl zrušen a synchronizované soubory byly z tohoto počítače odebrány. Obraťte se na správce.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Nahrávání…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Uplatňování nastavení…</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Ukončit</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Začněte kliknutím na tlačítko Opravit. Svou volbu zkontrolujete kliknutím na tlačítko Zpět. Instalaci ukončíte kliknutím na tlačítko Zrušit.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Do této složky nemůžete zapisovat. Vyberte jinou složku nebo změňte oprávnění k této složce.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Do této složky nemůžete zapisovat. Změňte oprávnění k této složce nebo vyberte jinou.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Vlastní doba</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Sledujte stav</translation>
+        <source>Check the sync status</source>
+        <translation>Sledujte stav synchronizace</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>Soubor</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Následující aplikace používají soubory, které musí instalační program aktualizovat:</translation>
     </message>
     <message>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>Update Lumivo Drive</source>
-        <translation>Aktualizace Lumivo Drive</translation>
+        <translation>Aktualizace aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Learn more</source>
@@ -768,8 +768,8 @@
         <translation>Server požadavek nepřijal. Zkontrolujte zadané údaje a zkuste to znovu.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Verze Lumivo Drive Server je pro tento počítač příliš stará. Aktualizujte ji na serveru na verzi %1 nebo novější.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Tato verze aplikace Lumivo Drive Server je pro aplikaci Lumivo Drive v tomto počítači příliš stará. Aktualizujte ji na serveru na verzi %1 nebo novější.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>Tuto složku používá úloha zálohování. Vyberte jinou složku.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Disk tohoto počítače je plný.</translation>
     </message>
     <message>
@@ -852,8 +852,8 @@
         <translation>Uzamčený soubor</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Neukončovat aplikace (počítač bude poté nutné restartovat)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Neukončovat aplikace (počítač bude později nutné restartovat)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Obnovit</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Instalaci ukončíte kliknutím na tlačítko Dokončit.</translation>
     </message>
     <message>
@@ -904,8 +904,8 @@
         <translation>Používané soubory</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
-        <translation>Instalace skončila předčasně</translation>
+        <source>Setup ended prematurely</source>
+        <translation>Instalace byla předčasně ukončena</translation>
     </message>
     <message>
         <source>File sharing through ZephLink is turned off on your server. Ask your administrator to turn it on.</source>
@@ -928,11 +928,11 @@
         <translation>Soubory v obou složkách budou sloučeny.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
-        <translation>Tato složka na serveru se již s tímto počítačem synchronizuje.\nKvůli druhé úloze synchronizace zabere na disku dvojnásobek místa.</translation>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
+        <translation>Tato složka na serveru se již s tímto počítačem synchronizuje.\nKvůli druhé úloze synchronizace by na disku zabírala dvojnásobek místa.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>Instalace byla přerušena</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Chyba</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Server blokuje adresu tohoto počítače. Požádejte správce, aby ji povolil.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Vytisknout</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
-        <translation>Vítá vás instalace Lumivo Drive</translation>
+        <source>Welcome to Lumivo Drive Setup</source>
+        <translation>Vítá vás instalační program aplikace Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>Maximální délka tohoto pole je %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Maximální počet znaků je %1.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -993,7 +993,7 @@
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
-        <translation>Vytvořit prázdnou složku pro Lumivo Drive</translation>
+        <translation>Vytvořit prázdnou složku pro aplikaci Lumivo Drive</translation>
     </message>
     <message>
         <source>File filter</source>
@@ -1004,7 +1004,7 @@
         <translation>Vše, co vložíte do synchronizované složky, se objeví na serveru a ve vašich ostatních počítačích.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Instalační program může aplikaci Lumivo Drive změnit, opravit nebo odebrat. Pokračujte kliknutím na tlačítko Další.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Vyberte složku na serveru a složku v tomto počítači.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Zadejte adresu a port proxy serveru.</translation>
     </message>
     <message>
@@ -1057,11 +1057,11 @@
     </message>
     <message>
         <source>Ready to repair Lumivo Drive</source>
-        <translation>Připraveno k opravě Lumivo Drive</translation>
+        <translation>Připraveno k opravě aplikace Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Odfiltrované soubory</translation>
+        <source>Skipped files</source>
+        <translation>Vynechané soubory</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,12 +1092,12 @@
         <translation>Synchronizace…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Aplikaci Lumivo Drive odeberete z tohoto počítače kliknutím na tlačítko Odebrat. Svou volbu zkontrolujete kliknutím na tlačítko Zpět. Instalaci ukončíte kliknutím na tlačítko Zrušit.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
-        <translation>Znovu vás vítá instalace Lumivo Drive</translation>
+        <source>Welcome back to Lumivo Drive Setup</source>
+        <translation>Znovu vás vítá instalační program aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Direct</source>
@@ -1116,7 +1116,7 @@
         <translation>Nedostatek místa</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Načítání sdílených složek…</translation>
     </message>
     <message>
@@ -1140,8 +1140,8 @@
         <translation>Složka na serveru není připojena. Připojte ji tam a zkuste to znovu.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Označovat odfiltrované soubory ikonou</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Označovat vynechané soubory ikonou</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>Další</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>U souborů s rozdílným obsahem zůstanou zachovány obě verze.</translation>
     </message>
     <message>
@@ -1168,19 +1168,19 @@
         <translation>Verze tohoto souboru nelze zobrazit. Zkontrolujte svá oprávnění na serveru.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
-        <translation>Odpověď serveru se nepodařilo rozpoznat. Aktualizujte Lumivo Drive a zkuste to znovu.</translation>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
+        <translation>Odpověď serveru se nepodařilo zpracovat. Aktualizujte aplikaci Lumivo Drive a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the installation of Lumivo Drive?</source>
-        <translation>Opravdu chcete zrušit instalaci Lumivo Drive?</translation>
+        <translation>Opravdu chcete zrušit instalaci aplikace Lumivo Drive?</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Na této adrese byl nalezen jiný server</translation>
     </message>
     <message>
@@ -1188,8 +1188,8 @@
         <translation>červenec</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
-        <translation>Některé soubory, které je nutné aktualizovat, se používají.</translation>
+        <source>Some files that need to be updated are in use.</source>
+        <translation>Některé soubory, které je nutné aktualizovat, se právě používají.</translation>
     </message>
     <message>
         <source>Lumivo Drive is ready.</source>
@@ -1205,7 +1205,7 @@
     </message>
     <message>
         <source>A newer version of Lumivo Drive is already installed on this computer. Remove it before you install this version.</source>
-        <translation>V tomto počítači je již nainstalována novější verze Lumivo Drive. Před instalací této verze ji odeberte.</translation>
+        <translation>V tomto počítači je již nainstalována novější verze aplikace Lumivo Drive. Před instalací této verze ji odeberte.</translation>
     </message>
     <message>
         <source>Welcome</source>
@@ -1228,7 +1228,7 @@
         <translation>Omezit přístup</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>Instalační program nainstaluje aplikaci Lumivo Drive do tohoto počítače. Pokračujte kliknutím na tlačítko Další, nebo instalaci ukončete kliknutím na tlačítko Zrušit.</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@
         <translation>Složku „%1“ se nepodařilo vytvořit. Zkontrolujte cestu k ní a svá oprávnění.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>Instalace byla ukončena kvůli chybě.\nV počítači nebyly provedeny žádné změny.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Filtr složek</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Certifikát serveru se nepodařilo ověřit. Zkontrolujte ho v nastavení připojení.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Soubor byl změněn současně na dvou místech. Obě verze zůstaly zachovány. Odstraňte tu, kterou nepotřebujete.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Certifikát serveru se změnil. Zkontrolujte ho v nastavení připojení.</translation>
     </message>
     <message>
@@ -1296,7 +1296,7 @@
         <translation>Zvolili jste odebrání aplikace Lumivo Drive z tohoto počítače.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
         <translation>Změny na síťovém disku nelze sledovat. Vyberte složku na místním disku.</translation>
     </message>
     <message>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation>před %1 h</translation>
+        <translation>Před %1 h</translation>
     </message>
     <message>
         <source>Files and folders that match these rules are not synced.</source>
@@ -1428,8 +1428,8 @@
         <translation>Zobrazovat Lumivo Drive v místní nabídce</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Verze Lumivo Drive je příliš stará. Aktualizujte ji v tomto počítači.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Tato verze aplikace Lumivo Drive je příliš stará. Aktualizujte ji v tomto počítači.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1549,7 +1549,7 @@
     </message>
     <message>
         <source>Update required</source>
-        <translation>Vyžadována aktualizace</translation>
+        <translation>Je nutná aktualizace</translation>
     </message>
     <message>
         <source>Sharing</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation>před %1 min</translation>
+        <translation>Před %1 min</translation>
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
@@ -1596,7 +1596,7 @@
         <translation>Hodnota</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Nejste přihlášeni jako správce. Aplikace Lumivo Drive bude nainstalována pouze pro vás.\nChcete pokračovat?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Odkazy nelze vytvářet, protože je vypnuta souborová služba. Požádejte správce, aby ji zapnul.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Ukončit aplikace a poté se je pokusit znovu spustit</translation>
     </message>
     <message>
@@ -1617,7 +1617,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is already installed. Do you want to install it again?</source>
-        <translation>Tato verze Lumivo Drive je již nainstalována. Chcete ji nainstalovat znovu?</translation>
+        <translation>Tato verze aplikace Lumivo Drive je již nainstalována. Chcete ji nainstalovat znovu?</translation>
     </message>
     <message>
         <source>Set a start date</source>
@@ -1656,7 +1656,7 @@
         <translation>Nesynchronizovat tuto složku</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Certifikát serveru se změnil.\nPokračujte pouze v případě, že víte proč.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Právě teď</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Instalační program je připraven opravit aplikaci Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Tuto složku můžete pouze číst. Změny v tomto počítači se nebudou nahrávat.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>K této složce nemáte přístup. Požádejte správce o oprávnění.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Soubory se synchronizují. Mezitím můžete dál pracovat.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Certifikát serveru se nepodařilo ověřit.\nPokračujte pouze v případě, že této síti důvěřujete.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Zbývá synchronizovat souborů: %1</translation>
     </message>
     <message>
@@ -1732,12 +1732,12 @@
         <translation>Vaše synchronizovaná složka</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Certifikát serveru se nepodařilo ověřit. Požádejte správce o platný certifikát.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Certifikát serveru se nepodařilo ověřit. Požádejte správce, aby nainstaloval platný certifikát.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
-        <translation>Server byl nahrazen. Propojte tento počítač znovu.</translation>
+        <translation>Server byl vyměněn. Propojte tento počítač znovu.</translation>
     </message>
     <message>
         <source>Follow these steps to link this computer to your server.</source>
@@ -1776,7 +1776,7 @@
         <translation>Ikony u místních souborů</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Není k dispozici žádná akce</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Vypnuto</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>Server ještě indexuje složku „%1“. Potom ji bude možné synchronizovat.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Server ještě indexuje složku „%1“. Synchronizovat ji můžete po dokončení indexování.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Pokud byl soubor změněn na dvou místech</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Změnit složku</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
-        <translation>Synchronizujte domovskou složku s doporučeným nastavením.</translation>
+        <source>Sync your home folder using the recommended settings.</source>
+        <translation>Synchronizujte domovskou složku pomocí doporučeného nastavení.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Načítání složek…</translation>
     </message>
     <message>
@@ -1829,10 +1829,10 @@
     </message>
     <message>
         <source>Ready to install Lumivo Drive</source>
-        <translation>Připraveno k instalaci Lumivo Drive</translation>
+        <translation>Připraveno k instalaci aplikace Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Až budete chtít aplikaci Lumivo Drive nainstalovat, spusťte instalační program znovu.</translation>
     </message>
     <message>
@@ -1876,12 +1876,12 @@
         <translation>Stahování…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>Nový jazyk se použije po příštím spuštění Lumivo Drive.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>Nový jazyk se použije při příštím spuštění aplikace Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
-        <translation>Probíhá instalace Lumivo Drive</translation>
+        <translation>Probíhá instalace aplikace Lumivo Drive</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
@@ -1892,7 +1892,7 @@
         <translation>Rychlé nastavení vyhovuje většině uživatelů. Vše můžete později změnit.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Disk serveru je plný.</translation>
     </message>
     <message>

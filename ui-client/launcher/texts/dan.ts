@@ -108,7 +108,7 @@
         <translation>Tester forbindelsen…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Installation af Lumivo Drive</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>I dag</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Installationsprogrammet er klar til at installere Lumivo Drive på denne computer.</translation>
     </message>
     <message>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>%1 d ago</source>
-        <translation>for %1 d. siden</translation>
+        <translation>For %1 dg. siden</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
@@ -172,7 +172,7 @@
         <translation>Åbn synkroniseringsmappe</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive er installeret</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Denne mappe overlapper med mappen for en anden synkroniseringsopgave. Vælg en anden mappe.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Mapperne på din server kunne ikke vises. Kontroller netværksforbindelsen, og prøv igen.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Kræver opmærksomhed</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Certifikatet for din server er ændret. Kontroller det, før du fortsætter.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>Opdateringen mislykkedes. Prøv igen senere.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Certifikatet for din server kunne ikke bekræftes.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Synkroniser disse mapper igen</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Disken på denne computer er fuld. Frigør plads for at fortsætte synkroniseringen.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Brug et sort-hvidt ikon i meddelelsesområdet</translation>
     </message>
     <message>
@@ -244,8 +244,8 @@
         <translation>Nogle felter er ikke udfyldt korrekt. Ret dem, og prøv igen.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
-        <translation>Installationen blev afbrudt. Din computer er ikke blevet ændret.</translation>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
+        <translation>Installationen blev afbrudt. Der er ikke foretaget ændringer på din computer.</translation>
     </message>
     <message>
         <source>Folder not found</source>
@@ -264,8 +264,8 @@
         <translation>Slet</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
-        <translation>Vælg en mappe på din server og den lokale mappe, som den synkroniseres med.</translation>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
+        <translation>Vælg en mappe på din server og den lokale mappe, som den skal synkroniseres med.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -296,7 +296,7 @@
         <translation>Filtype</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Vælg konfigurationsmetode</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Sprog</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>Synkroniseringen af ”%1” er stoppet. Åbn Lumivo Drive for at se detaljer.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink-ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>Synkroniseringsretningen passer ikke til rettighederne for denne mappe. Vælg en anden retning.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>Synkroniseringsretningen passer ikke til dine rettigheder til denne mappe. Vælg en anden retning.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>februar</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server er for gammel. Opdater den på din server.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Denne version af Lumivo Drive Server er for gammel. Opdater den på din server.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>Do not use a proxy</source>
-        <translation>Brug ikke en proxy</translation>
+        <translation>Brug ingen proxy</translation>
     </message>
     <message>
         <source>Shared folder</source>
@@ -440,15 +440,15 @@
         <translation>Netværksindstillinger</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Installationsprogrammet gennemfører dine valg.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
-        <translation>Mapper, som du fravælger her, fjernes fra denne computer. De bliver på din server.</translation>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
+        <translation>Mapper, som du fravælger her, fjernes fra denne computer. De bliver liggende på din server.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Disken på din server er fuld. Frigør plads på den for at fortsætte synkroniseringen.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Gem og kopier link</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Indtast adressen på din server og dine kontooplysninger.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Lad os komme i gang</translation>
     </message>
     <message>
@@ -484,12 +484,12 @@
         <translation>Forrige %1 sider</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Kør installationsprogrammet igen, hvis du vil installere Lumivo Drive senere.</translation>
     </message>
     <message>
         <source>Right-click a file in a synced folder to share it or to see its earlier versions.</source>
-        <translation>Højreklik på en fil i en synkroniseret mappe for at dele den eller se dens tidligere versioner.</translation>
+        <translation>Højreklik på en fil i en synkroniseret mappe for at dele den eller se tidligere versioner af den.</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -524,7 +524,7 @@
         <translation>Opret forbindelse via ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Klik på Installer for at begynde. Klik på Tilbage for at gennemse eller ændre dine valg. Klik på Annuller for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Uploadet</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Din adgang er blevet inddraget, og de synkroniserede filer er fjernet fra denne computer. Kontakt din administrator.</translation>
     </message>
     <message>
@@ -580,8 +580,8 @@
         <translation>Uploader…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
-        <translation>Anvender indstillingerne…</translation>
+        <source>Applying settings...</source>
+        <translation>Anvender indstillinger…</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
@@ -600,12 +600,12 @@
         <translation>Afslut</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klik på Reparer for at begynde. Klik på Tilbage for at gennemse dit valg. Klik på Annuller for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Du kan ikke skrive til denne mappe. Vælg en anden mappe, eller ændr dens rettigheder.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Du kan ikke skrive til denne mappe. Ændr mappens rettigheder, eller vælg en anden mappe.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Brugerdefineret periode</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Følg med i status</translation>
+        <source>Check the sync status</source>
+        <translation>Følg med i synkroniseringsstatus</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>Fil</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Følgende programmer bruger filer, som installationsprogrammet skal opdatere:</translation>
     </message>
     <message>
@@ -768,8 +768,8 @@
         <translation>Serveren accepterede ikke anmodningen. Kontroller det, du har indtastet, og prøv igen.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server er for gammel til denne computer. Opdater den på din server til version %1 eller nyere.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Denne version af Lumivo Drive Server er for gammel til Lumivo Drive på denne computer. Opdater den på din server til version %1 eller nyere.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -785,7 +785,7 @@
     </message>
     <message>
         <source>Lets you change which features are installed.</source>
-        <translation>Lader dig ændre, hvilke funktioner der er installeret.</translation>
+        <translation>Her kan du ændre, hvilke funktioner der er installeret.</translation>
     </message>
     <message>
         <source>Do you want to unlink this computer from &quot;%1&quot;?\nThe files that are already on this computer will be kept.</source>
@@ -796,7 +796,7 @@
         <translation>Denne mappe bruges af en sikkerhedskopieringsopgave. Vælg en anden mappe.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Disken på denne computer er fuld.</translation>
     </message>
     <message>
@@ -852,8 +852,8 @@
         <translation>Låst fil</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Luk ikke programmerne (computeren skal genstartes bagefter)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Luk ikke programmerne (du bliver nødt til at genstarte computeren senere)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Genoptag</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Klik på Udfør for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
@@ -904,8 +904,8 @@
         <translation>Filer i brug</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
-        <translation>Installationen sluttede for tidligt</translation>
+        <source>Setup ended prematurely</source>
+        <translation>Installationen blev afsluttet før tid</translation>
     </message>
     <message>
         <source>File sharing through ZephLink is turned off on your server. Ask your administrator to turn it on.</source>
@@ -928,11 +928,11 @@
         <translation>Filerne i begge mapper flettes.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
-        <translation>Denne mappe på din server synkroniseres allerede med denne computer.\nEndnu en synkroniseringsopgave for mappen optager dobbelt så meget diskplads.</translation>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
+        <translation>Denne mappe på din server synkroniseres allerede med denne computer.\nEndnu en synkroniseringsopgave for mappen vil optage dobbelt så meget diskplads.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>Installationen blev afbrudt</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Fejl</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Din server blokerer adressen på denne computer. Bed din administrator om at tillade den.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Udskriv</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Velkommen til installationen af Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>Den maksimale længde for dette felt er %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Indtast højst %1 tegn.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1004,7 +1004,7 @@
         <translation>Alt, hvad du lægger i din synkroniseringsmappe, dukker op på din server og på dine andre computere.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Installationsprogrammet kan ændre, reparere eller fjerne Lumivo Drive. Klik på Næste for at fortsætte.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Vælg en mappe på din server og en mappe på denne computer.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Indtast adressen og porten for proxyserveren.</translation>
     </message>
     <message>
@@ -1060,8 +1060,8 @@
         <translation>Klar til at reparere Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Filtrerede filer</translation>
+        <source>Skipped files</source>
+        <translation>Udeladte filer</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>Synkroniserer…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klik på Fjern for at fjerne Lumivo Drive fra denne computer. Klik på Tilbage for at gennemse dit valg. Klik på Annuller for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Velkommen tilbage til installationen af Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,8 +1116,8 @@
         <translation>Ikke mere plads</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
-        <translation>Indlæser de delte mapper…</translation>
+        <source>Loading shared folders...</source>
+        <translation>Indlæser delte mapper…</translation>
     </message>
     <message>
         <source>Unlinking...</source>
@@ -1140,8 +1140,8 @@
         <translation>Mappen på din server er ikke monteret. Monter den dér, og prøv igen.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Marker filtrerede filer med et ikon</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Marker udeladte filer med et ikon</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,8 +1152,8 @@
         <translation>Næste</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
-        <translation>Filer med forskelligt indhold bevares i begge versioner.</translation>
+        <source>Both versions of files with different contents are kept.</source>
+        <translation>Begge versioner af filer med forskelligt indhold bevares.</translation>
     </message>
     <message>
         <source>This folder is already synced. Do you want to add it again?</source>
@@ -1168,7 +1168,7 @@
         <translation>Versionerne af denne fil kan ikke vises. Kontroller dine rettigheder på serveren.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Svaret fra serveren kunne ikke forstås. Opdater Lumivo Drive, og prøv igen.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Der blev fundet en anden server på denne adresse</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>juli</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Nogle filer, der skal opdateres, er i brug.</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>Begræns adgang</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>Installationsprogrammet installerer Lumivo Drive på denne computer. Klik på Næste for at fortsætte eller på Annuller for at afslutte installationsprogrammet.</translation>
     </message>
     <message>
@@ -1240,8 +1240,8 @@
         <translation>Mappen ”%1” kunne ikke oprettes. Kontroller stien og dine rettigheder.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
-        <translation>Installationen sluttede på grund af en fejl.\nDin computer er ikke blevet ændret.</translation>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
+        <translation>Installationen blev afsluttet på grund af en fejl.\nDer er ikke foretaget ændringer på din computer.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete some files to continue syncing.</source>
@@ -1252,7 +1252,7 @@
         <translation>Mappefilter</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Certifikatet for din server kunne ikke bekræftes. Kontroller det i forbindelsesindstillingerne.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Filen blev ændret to steder på samme tid. Begge versioner er bevaret. Slet den, du ikke har brug for.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Certifikatet for din server er ændret. Kontroller det i forbindelsesindstillingerne.</translation>
     </message>
     <message>
@@ -1296,8 +1296,8 @@
         <translation>Du har valgt at fjerne Lumivo Drive fra denne computer.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>Ændringer på et netværksdrev kan ikke overvåges. Vælg en mappe på en lokal disk.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>Ændringer på et netværksdrev kan ikke registreres. Vælg en mappe på en lokal disk.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation>for %1 t. siden</translation>
+        <translation>For %1 t. siden</translation>
     </message>
     <message>
         <source>Files and folders that match these rules are not synced.</source>
@@ -1428,8 +1428,8 @@
         <translation>Vis Lumivo Drive i genvejsmenuen</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive er for gammel. Opdater programmet på denne computer.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Denne version af Lumivo Drive er for gammel. Opdater den på denne computer.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>The folder is not empty. Its files will be merged with the files on your server.</source>
-        <translation>Mappen er ikke tom. Dens filer flettes med filerne på din server.</translation>
+        <translation>Mappen er ikke tom. Filerne i den flettes med filerne på din server.</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -1537,7 +1537,7 @@
     </message>
     <message>
         <source>You can bring back a version that you overwrote or deleted.</source>
-        <translation>Du kan hente en version tilbage, som du har overskrevet eller slettet.</translation>
+        <translation>Du kan gendanne en version, som du har overskrevet eller slettet.</translation>
     </message>
     <message>
         <source>Sunday</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation>for %1 min. siden</translation>
+        <translation>For %1 min. siden</translation>
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
@@ -1596,7 +1596,7 @@
         <translation>Værdi</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Du er ikke logget ind som administrator. Lumivo Drive installeres kun for dig.\nVil du fortsætte?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Der kan ikke oprettes links, fordi filtjenesten er slået fra. Bed din administrator om at slå den til.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Luk programmerne, og forsøg at starte dem igen bagefter</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Synkroniser ikke denne mappe</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Certifikatet for din server er ændret.\nFortsæt kun, hvis du ved hvorfor.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Lige nu</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Installationsprogrammet er klar til at reparere Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Du har kun læseadgang til denne mappe. Ændringer på denne computer uploades ikke.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Du har ikke adgang til denne mappe. Bed din administrator om tilladelse.</translation>
     </message>
     <message>
@@ -1704,12 +1704,12 @@
         <translation>Dine filer synkroniseres. Du kan arbejde videre imens.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Certifikatet for din server kunne ikke bekræftes.\nFortsæt kun, hvis du har tillid til dette netværk.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
-        <translation>Filer, der mangler synkronisering: %1</translation>
+        <source>Files left to sync: %1</source>
+        <translation>Filer, der mangler at blive synkroniseret: %1</translation>
     </message>
     <message>
         <source>Welcome to Lumivo Drive</source>
@@ -1732,8 +1732,8 @@
         <translation>Din synkroniseringsmappe</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Certifikatet for din server kunne ikke bekræftes. Bed din administrator om et gyldigt certifikat.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Certifikatet for din server kunne ikke bekræftes. Bed din administrator om at installere et gyldigt certifikat.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,8 +1776,8 @@
         <translation>Ikoner på lokale filer</translation>
     </message>
     <message>
-        <source>No action available</source>
-        <translation>Ingen tilgængelig handling</translation>
+        <source>No actions available</source>
+        <translation>Ingen tilgængelige handlinger</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1796,11 +1796,11 @@
         <translation>Deaktiveret</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>Din server er stadig ved at indeksere ”%1”. Mappen kan synkroniseres bagefter.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Din server er stadig ved at indeksere ”%1”. Du kan synkronisere mappen, når indekseringen er færdig.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Når en fil er ændret to steder</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Skift mappe</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synkroniser din hjemmemappe med de anbefalede indstillinger.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
-        <translation>Indlæser mapperne…</translation>
+        <source>Loading folders...</source>
+        <translation>Indlæser mapper…</translation>
     </message>
     <message>
         <source>Wednesday</source>
@@ -1832,7 +1832,7 @@
         <translation>Klar til at installere Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Kør installationsprogrammet igen, når du vil installere Lumivo Drive.</translation>
     </message>
     <message>
@@ -1876,8 +1876,8 @@
         <translation>Downloader…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>Det nye sprog bruges, næste gang Lumivo Drive startes.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>Det nye sprog bruges, næste gang Lumivo Drive starter.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,7 +1892,7 @@
         <translation>Hurtig konfiguration passer til de fleste brugere. Du kan ændre alt senere.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Disken på din server er fuld.</translation>
     </message>
     <message>

@@ -108,7 +108,7 @@
         <translation>Verbindung wird getestet&#xa0;…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Setup von Lumivo Drive</translation>
     </message>
     <message>
@@ -116,8 +116,8 @@
         <translation>Heute</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
-        <translation>Das Installationsprogramm ist bereit, Lumivo Drive auf diesem Computer zu installieren.</translation>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
+        <translation>Das Setup ist bereit, Lumivo Drive auf diesem Computer zu installieren.</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>%1 d ago</source>
-        <translation>vor %1 T.</translation>
+        <translation>Vor %1 Tg.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
@@ -172,7 +172,7 @@
         <translation>Synchronisierungsordner öffnen</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive wurde installiert</translation>
     </message>
     <message>
@@ -184,15 +184,15 @@
         <translation>Dieser Ordner überschneidet sich mit dem Ordner einer anderen Synchronisierungsaufgabe. Wählen Sie einen anderen Ordner aus.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
-        <translation>Die Ordner Ihres Servers konnten nicht aufgelistet werden. Prüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
+        <translation>Die Ordner auf Ihrem Server konnten nicht aufgelistet werden. Prüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Needs attention</source>
         <translation>Eingreifen erforderlich</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Das Zertifikat Ihres Servers hat sich geändert. Prüfen Sie es, bevor Sie fortfahren.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>Das Update ist fehlgeschlagen. Versuchen Sie es später erneut.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Das Zertifikat Ihres Servers konnte nicht überprüft werden.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Diese Ordner wieder synchronisieren</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Der Datenträger dieses Computers ist voll. Geben Sie Speicherplatz frei, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Schwarz-weißes Symbol im Infobereich verwenden</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Einige Felder sind nicht richtig ausgefüllt. Korrigieren Sie sie und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>Das Setup wurde unterbrochen. An Ihrem Computer wurden keine Änderungen vorgenommen.</translation>
     </message>
     <message>
@@ -257,15 +257,15 @@
     </message>
     <message>
         <source>Choose the folders to sync</source>
-        <translation>Wählen Sie die zu synchronisierenden Ordner aus</translation>
+        <translation>Wählen Sie die Ordner aus, die Sie synchronisieren möchten</translation>
     </message>
     <message>
         <source>Delete</source>
         <translation>Löschen</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
-        <translation>Wählen Sie einen Ordner auf Ihrem Server und den lokalen Ordner aus, mit dem er synchronisiert wird.</translation>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
+        <translation>Wählen Sie einen Ordner auf Ihrem Server und den lokalen Ordner aus, mit dem er synchronisiert werden soll.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -296,7 +296,7 @@
         <translation>Dateityp</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Wählen Sie die Art der Einrichtung aus</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>Die Synchronisierung von „%1“ wurde gestoppt. Öffnen Sie Lumivo Drive, um Details anzuzeigen.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink-ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>Die Synchronisierungsrichtung passt nicht zu den Berechtigungen dieses Ordners. Wählen Sie eine andere Richtung.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>Die Synchronisierungsrichtung passt nicht zu Ihren Berechtigungen für diesen Ordner. Wählen Sie eine andere Richtung.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>Februar</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server ist zu alt. Aktualisieren Sie die Anwendung auf Ihrem Server.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Diese Version von Lumivo Drive Server ist zu alt. Aktualisieren Sie Lumivo Drive Server auf Ihrem Server.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>Netzwerkeinstellungen</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
-        <translation>Das Installationsprogramm wendet Ihre Auswahl an.</translation>
+        <source>Setup is applying your choices.</source>
+        <translation>Das Setup wendet Ihre Auswahl an.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Ordner, die Sie hier abwählen, werden von diesem Computer entfernt. Auf Ihrem Server bleiben sie erhalten.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Der Datenträger Ihres Servers ist voll. Geben Sie dort Speicherplatz frei, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Speichern und Link kopieren</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
-        <translation>Geben Sie die Adresse Ihres Servers und Ihr Konto ein.</translation>
+        <source>Enter your server&apos;s address and your account details.</source>
+        <translation>Geben Sie die Adresse Ihres Servers und Ihre Kontodaten ein.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Los geht’s</translation>
     </message>
     <message>
@@ -484,8 +484,8 @@
         <translation>Vorherige %1 Seiten</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
-        <translation>Um Lumivo Drive später zu installieren, starten Sie das Installationsprogramm erneut.</translation>
+        <source>To install Lumivo Drive later, run Setup again.</source>
+        <translation>Um Lumivo Drive später zu installieren, starten Sie das Setup erneut.</translation>
     </message>
     <message>
         <source>Right-click a file in a synced folder to share it or to see its earlier versions.</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>Diese Version von Lumivo Drive ist zu alt für Ihren Server. Aktualisieren Sie auf Version %1 oder höher.</translation>
+        <translation>Diese Version von Lumivo Drive ist zu alt für Ihren Server. Aktualisieren Sie Lumivo Drive auf Version %1 oder höher.</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -524,7 +524,7 @@
         <translation>Verbindung über ZephLink herstellen</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Klicken Sie auf „Installieren“, um zu beginnen. Klicken Sie auf „Zurück“, um Ihre Auswahl zu prüfen oder zu ändern. Klicken Sie auf „Abbrechen“, um das Setup zu beenden.</translation>
     </message>
     <message>
@@ -557,14 +557,14 @@
     </message>
     <message>
         <source>Choose what to sync with this computer and where to keep it.</source>
-        <translation>Wählen Sie, was mit diesem Computer synchronisiert und wo es gespeichert werden soll.</translation>
+        <translation>Wählen Sie aus, was mit diesem Computer synchronisiert und wo es gespeichert werden soll.</translation>
     </message>
     <message>
         <source>Uploaded</source>
         <translation>Hochgeladen</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Ihr Zugriff wurde widerrufen und die synchronisierten Dateien wurden von diesem Computer entfernt. Wenden Sie sich an Ihren Administrator.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Wird hochgeladen&#xa0;…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Einstellungen werden angewendet&#xa0;…</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Beenden</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klicken Sie auf „Reparieren“, um zu beginnen. Klicken Sie auf „Zurück“, um Ihre Auswahl zu prüfen. Klicken Sie auf „Abbrechen“, um das Setup zu beenden.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Sie haben in diesem Ordner keine Schreibrechte. Wählen Sie einen anderen Ordner aus oder ändern Sie seine Berechtigungen.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Sie haben keine Schreibberechtigung für diesen Ordner. Ändern Sie die Berechtigungen des Ordners oder wählen Sie einen anderen aus.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Benutzerdefinierte Dauer</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Den Status im Blick</translation>
+        <source>Check the sync status</source>
+        <translation>Synchronisierungsstatus im Blick</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,8 +700,8 @@
         <translation>Datei</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
-        <translation>Die folgenden Anwendungen verwenden Dateien, die das Installationsprogramm aktualisieren muss:</translation>
+        <source>The following applications are using files that Setup needs to update:</source>
+        <translation>Die folgenden Anwendungen verwenden Dateien, die das Setup aktualisieren muss:</translation>
     </message>
     <message>
         <source>Open Lumivo Drive</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Choose the folders, the sync direction and the sync rules yourself.</source>
-        <translation>Ordner, Synchronisierungsrichtung und Synchronisierungsregeln selbst festlegen.</translation>
+        <translation>Legen Sie die Ordner, die Synchronisierungsrichtung und die Synchronisierungsregeln selbst fest.</translation>
     </message>
     <message>
         <source>Repair the installed files</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>This username does not exist on your server. Check it and try again.</source>
-        <translation>Dieser Benutzername ist auf Ihrem Server nicht vorhanden. Prüfen Sie ihn und versuchen Sie es erneut.</translation>
+        <translation>Dieser Benutzername existiert auf Ihrem Server nicht. Prüfen Sie ihn und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Update Lumivo Drive</source>
@@ -768,8 +768,8 @@
         <translation>Der Server hat die Anfrage nicht angenommen. Prüfen Sie Ihre Eingaben und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server ist zu alt für diesen Computer. Aktualisieren Sie die Anwendung auf Ihrem Server auf Version %1 oder höher.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Diese Version von Lumivo Drive Server ist zu alt für Lumivo Drive auf diesem Computer. Aktualisieren Sie Lumivo Drive Server auf Ihrem Server auf Version %1 oder höher.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>Dieser Ordner wird von einer Sicherungsaufgabe verwendet. Wählen Sie einen anderen Ordner aus.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Der Datenträger dieses Computers ist voll.</translation>
     </message>
     <message>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>This ZephLink ID does not exist. Check it and try again.</source>
-        <translation>Diese ZephLink-ID ist nicht vorhanden. Prüfen Sie sie und versuchen Sie es erneut.</translation>
+        <translation>Diese ZephLink-ID existiert nicht. Prüfen Sie sie und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Do not sync these files</source>
@@ -852,8 +852,8 @@
         <translation>Gesperrte Datei</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Anwendungen nicht schließen (der Computer muss danach neu gestartet werden)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Anwendungen nicht schließen (Sie müssen den Computer später neu starten)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Fortsetzen</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Klicken Sie auf „Fertigstellen“, um das Setup zu beenden.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Dateien werden verwendet</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>Das Setup wurde vorzeitig beendet</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>Die Dateien in beiden Ordnern werden zusammengeführt.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
-        <translation>Dieser Ordner auf Ihrem Server wird bereits mit diesem Computer synchronisiert.\nEine zweite Synchronisierungsaufgabe dafür belegt doppelt so viel Speicherplatz.</translation>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
+        <translation>Dieser Ordner auf Ihrem Server wird bereits mit diesem Computer synchronisiert.\nEine zweite Synchronisierungsaufgabe dafür würde doppelt so viel Speicherplatz belegen.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>Das Setup wurde unterbrochen</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Fehler</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Ihr Server blockiert die Adresse dieses Computers. Bitten Sie Ihren Administrator, sie zuzulassen.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Drucken</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Willkommen beim Setup von Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>Die maximale Länge dieses Felds beträgt %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Geben Sie höchstens %1 Zeichen ein.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Stichwort</translation>
+        <translation>Suchbegriff</translation>
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
@@ -1004,15 +1004,15 @@
         <translation>Alles, was Sie in Ihren Synchronisierungsordner legen, erscheint auf Ihrem Server und auf Ihren anderen Computern.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
-        <translation>Das Installationsprogramm kann Lumivo Drive ändern, reparieren oder entfernen. Klicken Sie auf „Weiter“, um fortzufahren.</translation>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <translation>Das Setup kann Lumivo Drive ändern, reparieren oder entfernen. Klicken Sie auf „Weiter“, um fortzufahren.</translation>
     </message>
     <message>
         <source>Select a folder on your server and a folder on this computer.</source>
         <translation>Wählen Sie einen Ordner auf Ihrem Server und einen Ordner auf diesem Computer aus.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Geben Sie die Adresse und den Port des Proxyservers ein.</translation>
     </message>
     <message>
@@ -1060,8 +1060,8 @@
         <translation>Bereit zum Reparieren von Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Gefilterte Dateien</translation>
+        <source>Skipped files</source>
+        <translation>Übersprungene Dateien</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>Wird synchronisiert&#xa0;…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klicken Sie auf „Entfernen“, um Lumivo Drive von diesem Computer zu entfernen. Klicken Sie auf „Zurück“, um Ihre Auswahl zu prüfen. Klicken Sie auf „Abbrechen“, um das Setup zu beenden.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Willkommen zurück beim Setup von Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Kein Speicherplatz mehr</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Freigegebene Ordner werden geladen&#xa0;…</translation>
     </message>
     <message>
@@ -1125,7 +1125,7 @@
     </message>
     <message>
         <source>Files being synced</source>
-        <translation>Dateien in Synchronisierung</translation>
+        <translation>Dateien, die gerade synchronisiert werden</translation>
     </message>
     <message>
         <source>You can change all settings later.</source>
@@ -1140,8 +1140,8 @@
         <translation>Der Ordner auf Ihrem Server ist nicht eingehängt. Hängen Sie ihn dort ein und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Gefilterte Dateien mit einem Symbol kennzeichnen</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Übersprungene Dateien mit einem Symbol kennzeichnen</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>Weiter</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>Bei Dateien mit unterschiedlichem Inhalt bleiben beide Versionen erhalten.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>Die Versionen dieser Datei können nicht aufgelistet werden. Prüfen Sie Ihre Berechtigungen auf dem Server.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Die Antwort des Servers konnte nicht ausgewertet werden. Aktualisieren Sie Lumivo Drive und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Unter dieser Adresse wurde ein anderer Server gefunden</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>Juli</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Einige Dateien, die aktualisiert werden müssen, werden gerade verwendet.</translation>
     </message>
     <message>
@@ -1228,8 +1228,8 @@
         <translation>Zugriff einschränken</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
-        <translation>Das Installationsprogramm installiert Lumivo Drive auf diesem Computer. Klicken Sie auf „Weiter“, um fortzufahren, oder auf „Abbrechen“, um das Setup zu beenden.</translation>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
+        <translation>Das Setup installiert Lumivo Drive auf diesem Computer. Klicken Sie auf „Weiter“, um fortzufahren, oder auf „Abbrechen“, um das Setup zu beenden.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1240,7 +1240,7 @@
         <translation>Der Ordner „%1“ konnte nicht erstellt werden. Prüfen Sie den Pfad und Ihre Berechtigungen.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>Das Setup wurde aufgrund eines Fehlers beendet.\nAn Ihrem Computer wurden keine Änderungen vorgenommen.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Ordnerfilter</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Das Zertifikat Ihres Servers konnte nicht überprüft werden. Prüfen Sie es in den Verbindungseinstellungen.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Die Datei wurde gleichzeitig an zwei Orten geändert. Beide Versionen sind erhalten geblieben. Löschen Sie die Version, die Sie nicht benötigen.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Das Zertifikat Ihres Servers hat sich geändert. Prüfen Sie es in den Verbindungseinstellungen.</translation>
     </message>
     <message>
@@ -1296,8 +1296,8 @@
         <translation>Sie möchten Lumivo Drive von diesem Computer entfernen.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>Änderungen auf einem Netzlaufwerk können nicht überwacht werden. Wählen Sie einen Ordner auf einem lokalen Datenträger aus.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>Änderungen auf einem Netzlaufwerk können nicht erkannt werden. Wählen Sie einen Ordner auf einem lokalen Datenträger aus.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation>vor %1 Std.</translation>
+        <translation>Vor %1 Std.</translation>
     </message>
     <message>
         <source>Files and folders that match these rules are not synced.</source>
@@ -1428,8 +1428,8 @@
         <translation>Lumivo Drive im Kontextmenü anzeigen</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive ist zu alt. Aktualisieren Sie die Anwendung auf diesem Computer.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Diese Version von Lumivo Drive ist zu alt. Aktualisieren Sie Lumivo Drive auf diesem Computer.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1449,7 +1449,7 @@
     </message>
     <message>
         <source>Show sync status icons on files</source>
-        <translation>Synchronisierungssymbole auf Dateien anzeigen</translation>
+        <translation>Symbole für den Synchronisierungsstatus auf Dateien anzeigen</translation>
     </message>
     <message>
         <source>This field is required.</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation>vor %1 Min.</translation>
+        <translation>Vor %1 Min.</translation>
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
@@ -1596,7 +1596,7 @@
         <translation>Wert</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Sie sind nicht als Administrator angemeldet. Lumivo Drive wird nur für Sie installiert.\nMöchten Sie fortfahren?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Links können nicht erstellt werden, da der Dateidienst deaktiviert ist. Bitten Sie Ihren Administrator, ihn zu aktivieren.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Anwendungen schließen und danach versuchen, sie wieder zu starten</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Diesen Ordner nicht synchronisieren</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Das Zertifikat Ihres Servers hat sich geändert.\nFahren Sie nur fort, wenn Sie den Grund kennen.</translation>
     </message>
     <message>
@@ -1673,7 +1673,7 @@
     </message>
     <message>
         <source>Your account is not allowed to sync this folder. Ask your administrator for permission.</source>
-        <translation>Ihr Konto darf diesen Ordner nicht synchronisieren. Bitten Sie Ihren Administrator um die Berechtigung.</translation>
+        <translation>Mit Ihrem Konto dürfen Sie diesen Ordner nicht synchronisieren. Bitten Sie Ihren Administrator um die Berechtigung.</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -1684,15 +1684,15 @@
         <translation>Gerade eben</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
-        <translation>Das Installationsprogramm ist bereit, Lumivo Drive zu reparieren.</translation>
+        <source>Setup is ready to repair Lumivo Drive.</source>
+        <translation>Das Setup ist bereit, Lumivo Drive zu reparieren.</translation>
     </message>
     <message>
         <source>You can only read this folder. Changes on this computer will not be uploaded.</source>
         <translation>Sie können diesen Ordner nur lesen. Änderungen auf diesem Computer werden nicht hochgeladen.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Sie haben keinen Zugriff auf diesen Ordner. Bitten Sie Ihren Administrator um die Berechtigung.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Ihre Dateien werden synchronisiert. Sie können währenddessen weiterarbeiten.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Das Zertifikat Ihres Servers konnte nicht überprüft werden.\nFahren Sie nur fort, wenn Sie diesem Netzwerk vertrauen.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Noch zu synchronisierende Dateien: %1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>Ihr Synchronisierungsordner</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Das Zertifikat Ihres Servers konnte nicht überprüft werden. Bitten Sie Ihren Administrator um ein gültiges Zertifikat.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Das Zertifikat Ihres Servers konnte nicht überprüft werden. Bitten Sie Ihren Administrator, ein gültiges zu installieren.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,8 +1776,8 @@
         <translation>Symbole auf lokalen Dateien</translation>
     </message>
     <message>
-        <source>No action available</source>
-        <translation>Keine Aktion verfügbar</translation>
+        <source>No actions available</source>
+        <translation>Keine Aktionen verfügbar</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1796,11 +1796,11 @@
         <translation>Deaktiviert</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>Ihr Server indiziert „%1“ noch. Die Synchronisierung ist danach möglich.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Ihr Server indiziert „%1“ noch. Sie können den Ordner synchronisieren, sobald die Indizierung abgeschlossen ist.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Wenn eine Datei an zwei Orten geändert wurde</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Ordner ändern</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
-        <translation>Den persönlichen Ordner mit den empfohlenen Einstellungen synchronisieren.</translation>
+        <source>Sync your home folder using the recommended settings.</source>
+        <translation>Synchronisieren Sie Ihren persönlichen Ordner mit den empfohlenen Einstellungen.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Ordner werden geladen&#xa0;…</translation>
     </message>
     <message>
@@ -1832,8 +1832,8 @@
         <translation>Bereit zum Installieren von Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
-        <translation>Starten Sie das Installationsprogramm erneut, wenn Sie Lumivo Drive installieren möchten.</translation>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
+        <translation>Starten Sie das Setup erneut, wenn Sie Lumivo Drive installieren möchten.</translation>
     </message>
     <message>
         <source>Your home folder on the server now syncs with this computer.</source>
@@ -1876,8 +1876,8 @@
         <translation>Wird heruntergeladen&#xa0;…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>Die neue Sprache wird beim nächsten Start von Lumivo Drive verwendet.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>Die neue Sprache wird beim nächsten Start von Lumivo Drive wirksam.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,7 +1892,7 @@
         <translation>Die schnelle Einrichtung eignet sich für die meisten Benutzer. Sie können alles später ändern.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Der Datenträger Ihres Servers ist voll.</translation>
     </message>
     <message>

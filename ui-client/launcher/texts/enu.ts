@@ -108,16 +108,16 @@
         <translation>Testing the connection...</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
-        <translation>Lumivo Drive setup</translation>
+        <source>Lumivo Drive Setup</source>
+        <translation>Lumivo Drive Setup</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>Today</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
-        <translation>The setup program is ready to install Lumivo Drive on this computer.</translation>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
+        <translation>Setup is ready to install Lumivo Drive on this computer.</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -172,8 +172,8 @@
         <translation>Open sync folder</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
-        <translation>Lumivo Drive was installed</translation>
+        <source>Lumivo Drive has been installed</source>
+        <translation>Lumivo Drive has been installed</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -184,16 +184,16 @@
         <translation>This folder overlaps with the folder of another sync task. Select another folder.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
-        <translation>The folders of your server could not be listed. Check your network connection and try again.</translation>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
+        <translation>The folders on your server could not be listed. Check your network connection and try again.</translation>
     </message>
     <message>
         <source>Needs attention</source>
         <translation>Needs attention</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
-        <translation>The certificate of your server has changed. Check it before you continue.</translation>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
+        <translation>Your server&apos;s certificate has changed. Check it before you continue.</translation>
     </message>
     <message>
         <source>Last page</source>
@@ -212,8 +212,8 @@
         <translation>The update failed. Try again later.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
-        <translation>The certificate of your server could not be verified.</translation>
+        <source>Your server&apos;s certificate could not be verified.</source>
+        <translation>Your server&apos;s certificate could not be verified.</translation>
     </message>
     <message>
         <source>Please wait. This may take several minutes.</source>
@@ -232,20 +232,20 @@
         <translation>Sync these folders again</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
-        <translation>The disk of this computer is full. Free some space to continue syncing.</translation>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
+        <translation>This computer&apos;s disk is full. Free up some space to continue syncing.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
-        <translation>Use a black and white tray icon</translation>
+        <source>Use a black-and-white tray icon</source>
+        <translation>Use a black-and-white tray icon</translation>
     </message>
     <message>
         <source>Some fields are not filled in correctly. Correct them and try again.</source>
         <translation>Some fields are not filled in correctly. Correct them and try again.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
-        <translation>The setup was interrupted. Your computer has not been changed.</translation>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
+        <translation>Setup was interrupted. Your computer has not been changed.</translation>
     </message>
     <message>
         <source>Folder not found</source>
@@ -264,8 +264,8 @@
         <translation>Delete</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
-        <translation>Choose a folder on your server and the local folder that it syncs with.</translation>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
+        <translation>Choose a folder on your server and the local folder to sync it with.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -296,8 +296,8 @@
         <translation>File type</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
-        <translation>Choose how to set up</translation>
+        <source>Choose a setup type</source>
+        <translation>Choose a setup type</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -340,8 +340,8 @@
         <translation>Language</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
-        <translation>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</translation>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
+        <translation>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</translation>
     </message>
     <message>
         <source>Reset</source>
@@ -352,8 +352,8 @@
         <translation>ZephLink ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>The sync direction does not match the permissions of this folder. Choose another direction.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>The sync direction does not match your permissions for this folder. Choose another direction.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>February</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server is too old. Update it on your server.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>This version of Lumivo Drive Server is too old. Update it on your server.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,16 +440,16 @@
         <translation>Network settings</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
-        <translation>The setup program is applying your choices.</translation>
+        <source>Setup is applying your choices.</source>
+        <translation>Setup is applying your choices.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
-        <translation>Folders that you clear here will be removed from this computer. They stay on your server.</translation>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
+        <translation>Folders that you deselect here will be removed from this computer. They will remain on your server.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
-        <translation>The disk of your server is full. Free some space on it to continue syncing.</translation>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
+        <translation>Your server&apos;s disk is full. Free up some space on it to continue syncing.</translation>
     </message>
     <message>
         <source>Help</source>
@@ -468,12 +468,12 @@
         <translation>Save and copy link</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
-        <translation>Enter the address of your server and your account.</translation>
+        <source>Enter your server&apos;s address and your account details.</source>
+        <translation>Enter your server&apos;s address and your account details.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
-        <translation>Let us get started</translation>
+        <source>Let&apos;s get started</source>
+        <translation>Let&apos;s get started</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
@@ -484,8 +484,8 @@
         <translation>Previous %1 pages</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
-        <translation>To install Lumivo Drive later, run the setup program again.</translation>
+        <source>To install Lumivo Drive later, run Setup again.</source>
+        <translation>To install Lumivo Drive later, run Setup again.</translation>
     </message>
     <message>
         <source>Right-click a file in a synced folder to share it or to see its earlier versions.</source>
@@ -524,8 +524,8 @@
         <translation>Connect through ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
-        <translation>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</translation>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
+        <translation>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</translation>
     </message>
     <message>
         <source>Something went wrong. Try again later.</source>
@@ -564,8 +564,8 @@
         <translation>Uploaded</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
-        <translation>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</translation>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
+        <translation>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -580,8 +580,8 @@
         <translation>Uploading...</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
-        <translation>Applying the settings...</translation>
+        <source>Applying settings...</source>
+        <translation>Applying settings...</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
@@ -600,12 +600,12 @@
         <translation>Exit</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
-        <translation>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</translation>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
+        <translation>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>You cannot write to this folder. Select another folder or change its permissions.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>You cannot write to this folder. Change its permissions or select another folder.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Custom period</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Watch the status</translation>
+        <source>Check the sync status</source>
+        <translation>Check the sync status</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,8 +700,8 @@
         <translation>File</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
-        <translation>The following applications use files that the setup program has to update:</translation>
+        <source>The following applications are using files that Setup needs to update:</source>
+        <translation>The following applications are using files that Setup needs to update:</translation>
     </message>
     <message>
         <source>Open Lumivo Drive</source>
@@ -768,8 +768,8 @@
         <translation>The server did not accept the request. Check your entries and try again.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,8 +796,8 @@
         <translation>This folder is used by a backup task. Select another folder.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
-        <translation>The disk of this computer is full.</translation>
+        <source>This computer&apos;s disk is full.</source>
+        <translation>This computer&apos;s disk is full.</translation>
     </message>
     <message>
         <source>This folder is not empty</source>
@@ -852,8 +852,8 @@
         <translation>Locked file</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Do not close the applications (the computer has to be restarted afterwards)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Do not close the applications (you will have to restart the computer later)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,8 +880,8 @@
         <translation>Resume</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
-        <translation>Click Finish to leave the setup.</translation>
+        <source>Click Finish to exit Setup.</source>
+        <translation>Click Finish to exit Setup.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -904,8 +904,8 @@
         <translation>Files in use</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
-        <translation>The setup ended too early</translation>
+        <source>Setup ended prematurely</source>
+        <translation>Setup ended prematurely</translation>
     </message>
     <message>
         <source>File sharing through ZephLink is turned off on your server. Ask your administrator to turn it on.</source>
@@ -928,12 +928,12 @@
         <translation>The files in both folders will be merged.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
-        <translation>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</translation>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
+        <translation>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
-        <translation>The setup was interrupted</translation>
+        <source>Setup was interrupted</source>
+        <translation>Setup was interrupted</translation>
     </message>
     <message>
         <source>The verification code is incorrect. Enter the current code and try again.</source>
@@ -956,8 +956,8 @@
         <translation>Error</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
-        <translation>Your server blocks the address of this computer. Ask your administrator to allow it.</translation>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
+        <translation>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</translation>
     </message>
     <message>
         <source>Checking your username and password...</source>
@@ -968,12 +968,12 @@
         <translation>Print</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
-        <translation>Welcome to the setup of Lumivo Drive</translation>
+        <source>Welcome to Lumivo Drive Setup</source>
+        <translation>Welcome to Lumivo Drive Setup</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>The maximum length of this field is %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Enter no more than %1 characters.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1004,16 +1004,16 @@
         <translation>Everything that you put into your sync folder appears on your server and on your other computers.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
-        <translation>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</translation>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <translation>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</translation>
     </message>
     <message>
         <source>Select a folder on your server and a folder on this computer.</source>
         <translation>Select a folder on your server and a folder on this computer.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
-        <translation>Enter the address and the port of the proxy server.</translation>
+        <source>Enter the address and port of the proxy server.</source>
+        <translation>Enter the address and port of the proxy server.</translation>
     </message>
     <message>
         <source>Watching for changes...</source>
@@ -1060,8 +1060,8 @@
         <translation>Ready to repair Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Filtered files</translation>
+        <source>Skipped files</source>
+        <translation>Skipped files</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,12 +1092,12 @@
         <translation>Syncing...</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
-        <translation>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</translation>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
+        <translation>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
-        <translation>Welcome back to the setup of Lumivo Drive</translation>
+        <source>Welcome back to Lumivo Drive Setup</source>
+        <translation>Welcome back to Lumivo Drive Setup</translation>
     </message>
     <message>
         <source>Direct</source>
@@ -1116,8 +1116,8 @@
         <translation>No space left</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
-        <translation>Loading the shared folders...</translation>
+        <source>Loading shared folders...</source>
+        <translation>Loading shared folders...</translation>
     </message>
     <message>
         <source>Unlinking...</source>
@@ -1140,8 +1140,8 @@
         <translation>The folder on your server is not mounted. Mount it there and try again.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Mark filtered files with an icon</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Mark skipped files with an icon</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,8 +1152,8 @@
         <translation>Next</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
-        <translation>Files with different contents are kept in both versions.</translation>
+        <source>Both versions of files with different contents are kept.</source>
+        <translation>Both versions of files with different contents are kept.</translation>
     </message>
     <message>
         <source>This folder is already synced. Do you want to add it again?</source>
@@ -1168,8 +1168,8 @@
         <translation>The versions of this file cannot be listed. Check your permissions on the server.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
-        <translation>The answer of the server could not be understood. Update Lumivo Drive and try again.</translation>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
+        <translation>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the installation of Lumivo Drive?</source>
@@ -1180,16 +1180,16 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
-        <translation>Another server was found at this address</translation>
+        <source>A different server was found at this address</source>
+        <translation>A different server was found at this address</translation>
     </message>
     <message>
         <source>July</source>
         <translation>July</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
-        <translation>Some files that have to be updated are in use.</translation>
+        <source>Some files that need to be updated are in use.</source>
+        <translation>Some files that need to be updated are in use.</translation>
     </message>
     <message>
         <source>Lumivo Drive is ready.</source>
@@ -1228,8 +1228,8 @@
         <translation>Restrict access</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
-        <translation>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</translation>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
+        <translation>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1240,8 +1240,8 @@
         <translation>Could not create the folder &quot;%1&quot;. Check its path and your permissions.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
-        <translation>The setup ended because of an error.\nYour computer has not been changed.</translation>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
+        <translation>Setup ended because of an error.\nYour computer has not been changed.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete some files to continue syncing.</source>
@@ -1252,8 +1252,8 @@
         <translation>Folder filter</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
-        <translation>The certificate of your server could not be verified. Check it in the connection settings.</translation>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
+        <translation>Your server&apos;s certificate could not be verified. Check it in the connection settings.</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -1268,8 +1268,8 @@
         <translation>The file was changed in two places at the same time. Both versions have been kept. Delete the one that you do not need.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
-        <translation>The certificate of your server has changed. Check it in the connection settings.</translation>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
+        <translation>Your server&apos;s certificate has changed. Check it in the connection settings.</translation>
     </message>
     <message>
         <source>Encrypt the connection (SSL)</source>
@@ -1296,8 +1296,8 @@
         <translation>You have chosen to remove Lumivo Drive from this computer.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>Changes on a network drive cannot be watched. Select a folder on a local disk.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>Changes on a network drive cannot be detected. Select a folder on a local disk.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1428,8 +1428,8 @@
         <translation>Show Lumivo Drive in the context menu</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive is too old. Update it on this computer.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>This version of Lumivo Drive is too old. Update it on this computer.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1596,16 +1596,16 @@
         <translation>Value</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
-        <translation>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</translation>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
+        <translation>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</translation>
     </message>
     <message>
         <source>Links cannot be created because the file service is turned off. Ask your administrator to turn it on.</source>
         <translation>Links cannot be created because the file service is turned off. Ask your administrator to turn it on.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
-        <translation>Close the applications and try to start them again afterwards</translation>
+        <source>Close the applications and try to restart them afterward</source>
+        <translation>Close the applications and try to restart them afterward</translation>
     </message>
     <message>
         <source>License agreement</source>
@@ -1656,8 +1656,8 @@
         <translation>Do not sync this folder</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
-        <translation>The certificate of your server has changed.\nContinue only if you know why.</translation>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
+        <translation>Your server&apos;s certificate has changed.\nContinue only if you know why.</translation>
     </message>
     <message>
         <source>Maximum file size (MB)</source>
@@ -1684,16 +1684,16 @@
         <translation>Just now</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
-        <translation>The setup program is ready to repair Lumivo Drive.</translation>
+        <source>Setup is ready to repair Lumivo Drive.</source>
+        <translation>Setup is ready to repair Lumivo Drive.</translation>
     </message>
     <message>
         <source>You can only read this folder. Changes on this computer will not be uploaded.</source>
         <translation>You can only read this folder. Changes on this computer will not be uploaded.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
-        <translation>You have no access to this folder. Ask your administrator for permission.</translation>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
+        <translation>You do not have access to this folder. Ask your administrator for permission.</translation>
     </message>
     <message>
         <source>No entries found</source>
@@ -1704,12 +1704,12 @@
         <translation>Your files are being synced. You can keep working in the meantime.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
-        <translation>The certificate of your server could not be verified.\nContinue only if you trust this network.</translation>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
+        <translation>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
-        <translation>Files still to sync: %1</translation>
+        <source>Files left to sync: %1</source>
+        <translation>Files left to sync: %1</translation>
     </message>
     <message>
         <source>Welcome to Lumivo Drive</source>
@@ -1732,8 +1732,8 @@
         <translation>Your sync folder</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>The certificate of your server could not be verified. Ask your administrator for a valid one.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,8 +1776,8 @@
         <translation>Icons on local files</translation>
     </message>
     <message>
-        <source>No action available</source>
-        <translation>No action available</translation>
+        <source>No actions available</source>
+        <translation>No actions available</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1796,12 +1796,12 @@
         <translation>Disabled</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
-        <translation>When a file was changed in two places</translation>
+        <source>When a file has been changed in two places</source>
+        <translation>When a file has been changed in two places</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is not empty.\nDo you want to use it anyway?</source>
@@ -1812,12 +1812,12 @@
         <translation>Change folder</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
-        <translation>Sync your home folder with the recommended settings.</translation>
+        <source>Sync your home folder using the recommended settings.</source>
+        <translation>Sync your home folder using the recommended settings.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
-        <translation>Loading the folders...</translation>
+        <source>Loading folders...</source>
+        <translation>Loading folders...</translation>
     </message>
     <message>
         <source>Wednesday</source>
@@ -1832,8 +1832,8 @@
         <translation>Ready to install Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
-        <translation>Run the setup program again whenever you want to install Lumivo Drive.</translation>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
+        <translation>Run Setup again whenever you want to install Lumivo Drive.</translation>
     </message>
     <message>
         <source>Your home folder on the server now syncs with this computer.</source>
@@ -1876,8 +1876,8 @@
         <translation>Downloading...</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>The new language is used after the next start of Lumivo Drive.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>The new language takes effect the next time Lumivo Drive starts.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,8 +1892,8 @@
         <translation>Quick setup suits most users. You can change everything later.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
-        <translation>The disk of your server is full.</translation>
+        <source>Your server&apos;s disk is full.</source>
+        <translation>Your server&apos;s disk is full.</translation>
     </message>
     <message>
         <source>Go back in time</source>

@@ -108,7 +108,7 @@
         <translation>Comprobando la conexión…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Instalación de Lumivo Drive</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Hoy</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>El programa de instalación está listo para instalar Lumivo Drive en este equipo.</translation>
     </message>
     <message>
@@ -172,8 +172,8 @@
         <translation>Abrir la carpeta de sincronización</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
-        <translation>Lumivo Drive se ha instalado</translation>
+        <source>Lumivo Drive has been installed</source>
+        <translation>Se ha instalado Lumivo Drive</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -184,7 +184,7 @@
         <translation>Esta carpeta se solapa con la de otra tarea de sincronización. Seleccione otra carpeta.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>No se ha podido mostrar la lista de carpetas de su servidor. Compruebe la conexión de red e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Requiere atención</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>El certificado de su servidor ha cambiado. Compruébelo antes de continuar.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>La actualización ha fallado. Inténtelo de nuevo más tarde.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>No se ha podido verificar el certificado de su servidor.</translation>
     </message>
     <message>
@@ -225,18 +225,18 @@
     </message>
     <message>
         <source>Your files, wherever you work</source>
-        <translation>Sus archivos, dondequiera que trabaje</translation>
+        <translation>Sus archivos, allá donde trabaje</translation>
     </message>
     <message>
         <source>Sync these folders again</source>
         <translation>Volver a sincronizar estas carpetas</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>El disco de este equipo está lleno. Libere espacio para continuar la sincronización.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Usar un icono en blanco y negro en la bandeja del sistema</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Algunos campos no se han rellenado correctamente. Corríjalos e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>La instalación se ha interrumpido. No se ha modificado el equipo.</translation>
     </message>
     <message>
@@ -264,8 +264,8 @@
         <translation>Eliminar</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
-        <translation>Elija una carpeta de su servidor y la carpeta local con la que se sincroniza.</translation>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
+        <translation>Elija una carpeta de su servidor y la carpeta local con la que desea sincronizarla.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -296,7 +296,7 @@
         <translation>Tipo de archivo</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Elegir el modo de configuración</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Idioma</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>La sincronización de «%1» se ha detenido. Abra Lumivo Drive para ver los detalles.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ID de ZephLink</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>La dirección de sincronización no se corresponde con los permisos de esta carpeta. Elija otra dirección.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>La dirección de sincronización no se corresponde con sus permisos para esta carpeta. Elija otra dirección.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>febrero</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>La versión de Lumivo Drive Server es demasiado antigua. Actualícela en su servidor.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Esta versión de Lumivo Drive Server es demasiado antigua. Actualícela en su servidor.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>Ajustes de red</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
-        <translation>El programa de instalación está aplicando sus elecciones.</translation>
+        <source>Setup is applying your choices.</source>
+        <translation>El programa de instalación está aplicando las opciones elegidas.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Las carpetas que desmarque aquí se quitarán de este equipo. Seguirán en su servidor.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>El disco de su servidor está lleno. Libere espacio en él para continuar la sincronización.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Guardar y copiar enlace</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Introduzca la dirección de su servidor y los datos de su cuenta.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Para empezar</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>%1 páginas anteriores</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Para instalar Lumivo Drive más tarde, vuelva a ejecutar el programa de instalación.</translation>
     </message>
     <message>
@@ -524,8 +524,8 @@
         <translation>Conectar mediante ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
-        <translation>Haga clic en «Instalar» para empezar. Haga clic en «Atrás» para revisar o cambiar sus elecciones. Haga clic en «Cancelar» para salir de la instalación.</translation>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
+        <translation>Haga clic en «Instalar» para empezar. Haga clic en «Atrás» para revisar o cambiar las opciones elegidas. Haga clic en «Cancelar» para salir de la instalación.</translation>
     </message>
     <message>
         <source>Something went wrong. Try again later.</source>
@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>Selective sync is not available yet. Update Lumivo Drive Server on your server to use it.</source>
-        <translation>La sincronización selectiva aún no está disponible. Actualice Lumivo Drive Server en su servidor para utilizarla.</translation>
+        <translation>La sincronización selectiva aún no está disponible. Para utilizarla, actualice Lumivo Drive Server en su servidor.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -564,7 +564,7 @@
         <translation>Subido</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Se ha revocado su acceso y los archivos sincronizados se han quitado de este equipo. Póngase en contacto con su administrador.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Subiendo…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Aplicando los ajustes…</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Salir</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Haga clic en «Reparar» para empezar. Haga clic en «Atrás» para revisar su elección. Haga clic en «Cancelar» para salir de la instalación.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>No puede escribir en esta carpeta. Seleccione otra carpeta o cambie sus permisos.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>No puede escribir en esta carpeta. Cambie los permisos de la carpeta o seleccione otra.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Periodo personalizado</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Consultar el estado</translation>
+        <source>Check the sync status</source>
+        <translation>Consultar el estado de la sincronización</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,8 +700,8 @@
         <translation>Archivo</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
-        <translation>Las siguientes aplicaciones usan archivos que el programa de instalación debe actualizar:</translation>
+        <source>The following applications are using files that Setup needs to update:</source>
+        <translation>Las siguientes aplicaciones están usando archivos que el programa de instalación debe actualizar:</translation>
     </message>
     <message>
         <source>Open Lumivo Drive</source>
@@ -768,8 +768,8 @@
         <translation>El servidor no ha aceptado la solicitud. Compruebe los datos introducidos e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>La versión de Lumivo Drive Server es demasiado antigua para este equipo. Actualícela en su servidor a la versión %1 o posterior.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Esta versión de Lumivo Drive Server es demasiado antigua para la versión de Lumivo Drive instalada en este equipo. Actualice Lumivo Drive Server a la versión %1 o posterior.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>Una tarea de copia de seguridad usa esta carpeta. Seleccione otra carpeta.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>El disco de este equipo está lleno.</translation>
     </message>
     <message>
@@ -845,15 +845,15 @@
     </message>
     <message>
         <source>Share with others</source>
-        <translation>Compartir con otros</translation>
+        <translation>Compartir con otras personas</translation>
     </message>
     <message>
         <source>Locked file</source>
         <translation>Archivo bloqueado</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>No cerrar las aplicaciones (después será necesario reiniciar el equipo)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>No cerrar las aplicaciones (tendrá que reiniciar el equipo más tarde)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Reanudar</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Haga clic en «Finalizar» para salir de la instalación.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Archivos en uso</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>La instalación ha finalizado antes de tiempo</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>Los archivos de ambas carpetas se combinarán.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>Esta carpeta de su servidor ya se sincroniza con este equipo.\nUna segunda tarea de sincronización ocuparía el doble de espacio en disco.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>La instalación se ha interrumpido</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Error</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Su servidor bloquea la dirección de este equipo. Pida a su administrador que la permita.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Imprimir</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Le damos la bienvenida a la instalación de Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>La longitud máxima de este campo es de %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Introduzca %1 caracteres como máximo.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1001,10 +1001,10 @@
     </message>
     <message>
         <source>Everything that you put into your sync folder appears on your server and on your other computers.</source>
-        <translation>Los archivos que coloque en su carpeta de sincronización aparecerán en su servidor y en sus demás equipos.</translation>
+        <translation>Cuanto coloque en su carpeta de sincronización aparecerá en su servidor y en sus demás equipos.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>El programa de instalación puede cambiar, reparar o quitar Lumivo Drive. Haga clic en «Siguiente» para continuar.</translation>
     </message>
     <message>
@@ -1012,12 +1012,12 @@
         <translation>Seleccione una carpeta de su servidor y una carpeta de este equipo.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Introduzca la dirección y el puerto del servidor proxy.</translation>
     </message>
     <message>
         <source>Watching for changes...</source>
-        <translation>A la espera de cambios…</translation>
+        <translation>Supervisando los cambios…</translation>
     </message>
     <message>
         <source>Change</source>
@@ -1060,8 +1060,8 @@
         <translation>Listo para reparar Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Archivos filtrados</translation>
+        <source>Skipped files</source>
+        <translation>Archivos omitidos</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>Sincronizando…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Haga clic en «Quitar» para quitar Lumivo Drive de este equipo. Haga clic en «Atrás» para revisar su elección. Haga clic en «Cancelar» para salir de la instalación.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Le damos de nuevo la bienvenida a la instalación de Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>No queda espacio</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Cargando las carpetas compartidas…</translation>
     </message>
     <message>
@@ -1140,8 +1140,8 @@
         <translation>La carpeta de su servidor no está montada. Móntela allí e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Marcar los archivos filtrados con un icono</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Marcar los archivos omitidos con un icono</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,8 +1152,8 @@
         <translation>Siguiente</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
-        <translation>De los archivos con contenido distinto se conservan ambas versiones.</translation>
+        <source>Both versions of files with different contents are kept.</source>
+        <translation>Se conservan ambas versiones de los archivos con contenido distinto.</translation>
     </message>
     <message>
         <source>This folder is already synced. Do you want to add it again?</source>
@@ -1168,7 +1168,7 @@
         <translation>No se puede mostrar la lista de versiones de este archivo. Compruebe sus permisos en el servidor.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>No se ha podido interpretar la respuesta del servidor. Actualice Lumivo Drive e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Puerto</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Se ha encontrado otro servidor en esta dirección</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>julio</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Algunos archivos que se deben actualizar están en uso.</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>Restringir el acceso</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>El programa de instalación instalará Lumivo Drive en este equipo. Haga clic en «Siguiente» para continuar o en «Cancelar» para salir de la instalación.</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@
         <translation>No se ha podido crear la carpeta «%1». Compruebe la ruta y sus permisos.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>La instalación ha finalizado debido a un error.\nNo se ha modificado el equipo.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Filtro de carpetas</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>No se ha podido verificar el certificado de su servidor. Compruébelo en los ajustes de conexión.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>El archivo se ha modificado en dos lugares al mismo tiempo. Se han conservado ambas versiones. Elimine la que no necesite.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>El certificado de su servidor ha cambiado. Compruébelo en los ajustes de conexión.</translation>
     </message>
     <message>
@@ -1296,7 +1296,7 @@
         <translation>Ha elegido quitar Lumivo Drive de este equipo.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
         <translation>No se pueden detectar los cambios en una unidad de red. Seleccione una carpeta en un disco local.</translation>
     </message>
     <message>
@@ -1401,7 +1401,7 @@
     </message>
     <message>
         <source>File names to skip</source>
-        <translation>Nombres de archivo que se omiten</translation>
+        <translation>Nombres de archivo que se omitirán</translation>
     </message>
     <message>
         <source>Thursday</source>
@@ -1428,8 +1428,8 @@
         <translation>Mostrar Lumivo Drive en el menú contextual</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>La versión de Lumivo Drive es demasiado antigua. Actualícela en este equipo.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Esta versión de Lumivo Drive es demasiado antigua. Actualícela en este equipo.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>Start now</source>
-        <translation>Iniciar ahora</translation>
+        <translation>Empezar ahora</translation>
     </message>
     <message>
         <source>Search the local network</source>
@@ -1577,7 +1577,7 @@
     </message>
     <message>
         <source>File extensions to skip</source>
-        <translation>Extensiones de archivo que se omiten</translation>
+        <translation>Extensiones de archivo que se omitirán</translation>
     </message>
     <message>
         <source>Relay</source>
@@ -1596,7 +1596,7 @@
         <translation>Valor</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>No ha iniciado sesión como administrador. Lumivo Drive se instalará solo para usted.\n¿Desea continuar?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>No se pueden crear enlaces porque el servicio de archivos está desactivado. Pida a su administrador que lo active.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Cerrar las aplicaciones e intentar iniciarlas de nuevo después</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>No sincronizar esta carpeta</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>El certificado de su servidor ha cambiado.\nContinúe solo si sabe por qué.</translation>
     </message>
     <message>
@@ -1665,7 +1665,7 @@
     </message>
     <message>
         <source>Keep the version that was changed last</source>
-        <translation>Conservar la versión modificada en último lugar</translation>
+        <translation>Conservar la versión modificada más recientemente</translation>
     </message>
     <message>
         <source>Find servers on the local network</source>
@@ -1684,7 +1684,7 @@
         <translation>Ahora mismo</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>El programa de instalación está listo para reparar Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Solo puede leer esta carpeta. Los cambios realizados en este equipo no se subirán.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>No tiene acceso a esta carpeta. Solicite permiso a su administrador.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Sus archivos se están sincronizando. Mientras tanto, puede seguir trabajando.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>No se ha podido verificar el certificado de su servidor.\nContinúe solo si confía en esta red.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Archivos pendientes de sincronizar: %1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>Su carpeta de sincronización</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>No se ha podido verificar el certificado de su servidor. Pida uno válido a su administrador.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>No se ha podido verificar el certificado de su servidor. Pida a su administrador que instale uno válido.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,8 +1776,8 @@
         <translation>Iconos de los archivos locales</translation>
     </message>
     <message>
-        <source>No action available</source>
-        <translation>Ninguna acción disponible</translation>
+        <source>No actions available</source>
+        <translation>No hay acciones disponibles</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1796,11 +1796,11 @@
         <translation>Desactivado</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>Su servidor aún está indexando «%1». Se podrá sincronizar después.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Su servidor aún está indexando «%1». Podrá sincronizar la carpeta cuando finalice la indexación.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Cuando un archivo se haya modificado en dos lugares</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Cambiar carpeta</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Sincronice su carpeta personal con los ajustes recomendados.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Cargando las carpetas…</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Listo para instalar Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Vuelva a ejecutar el programa de instalación cuando desee instalar Lumivo Drive.</translation>
     </message>
     <message>
@@ -1876,8 +1876,8 @@
         <translation>Descargando…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>El nuevo idioma se usará la próxima vez que se inicie Lumivo Drive.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>El nuevo idioma se aplicará la próxima vez que se inicie Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,7 +1892,7 @@
         <translation>La configuración rápida es adecuada para la mayoría de los usuarios. Podrá cambiar cualquier opción más tarde.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>El disco de su servidor está lleno.</translation>
     </message>
     <message>

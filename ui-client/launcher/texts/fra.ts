@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Certificate warning</source>
-        <translation>Avertissement de certificat</translation>
+        <translation>Avertissement relatif au certificat</translation>
     </message>
     <message>
         <source>Change connection settings</source>
@@ -108,7 +108,7 @@
         <translation>Test de la connexion…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Installation de Lumivo Drive</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Aujourd’hui</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Le programme d’installation est prêt à installer Lumivo Drive sur cet ordinateur.</translation>
     </message>
     <message>
@@ -172,7 +172,7 @@
         <translation>Ouvrir le dossier de synchronisation</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive a été installé</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Ce dossier chevauche celui d’une autre tâche de synchronisation. Sélectionnez un autre dossier.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Impossible d’afficher la liste des dossiers de votre serveur. Vérifiez votre connexion réseau et réessayez.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Intervention requise</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Le certificat de votre serveur a changé. Vérifiez-le avant de continuer.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>La mise à jour a échoué. Réessayez plus tard.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Impossible de vérifier le certificat de votre serveur.</translation>
     </message>
     <message>
@@ -225,18 +225,18 @@
     </message>
     <message>
         <source>Your files, wherever you work</source>
-        <translation>Vos fichiers, où que vous travailliez</translation>
+        <translation>Vos fichiers, partout où vous travaillez</translation>
     </message>
     <message>
         <source>Sync these folders again</source>
         <translation>Synchroniser à nouveau ces dossiers</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Le disque de cet ordinateur est plein. Libérez de l’espace pour poursuivre la synchronisation.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Utiliser une icône en noir et blanc dans la zone de notification</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Certains champs ne sont pas remplis correctement. Corrigez-les et réessayez.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>L’installation a été interrompue. Votre ordinateur n’a pas été modifié.</translation>
     </message>
     <message>
@@ -264,8 +264,8 @@
         <translation>Supprimer</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
-        <translation>Choisissez un dossier sur votre serveur et le dossier local avec lequel il se synchronise.</translation>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
+        <translation>Choisissez un dossier sur votre serveur et le dossier local avec lequel le synchroniser.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -296,7 +296,7 @@
         <translation>Type de fichier</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Choisir le mode de configuration</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Langue</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>La synchronisation de «&#x202f;%1&#x202f;» s’est arrêtée. Ouvrez Lumivo Drive pour en savoir plus.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ID ZephLink</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>Le sens de synchronisation ne correspond pas aux autorisations de ce dossier. Choisissez un autre sens.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>Le sens de synchronisation ne correspond pas à vos autorisations sur ce dossier. Choisissez un autre sens.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>février</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>La version de Lumivo Drive Server est trop ancienne. Mettez-la à jour sur votre serveur.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Cette version de Lumivo Drive Server est trop ancienne. Mettez-la à jour sur votre serveur.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>Paramètres réseau</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Le programme d’installation applique vos choix.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
-        <translation>Les dossiers que vous décochez ici seront supprimés de cet ordinateur. Ils restent sur votre serveur.</translation>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
+        <translation>Les dossiers que vous décochez ici seront supprimés de cet ordinateur. Ils resteront sur votre serveur.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Le disque de votre serveur est plein. Libérez-y de l’espace pour poursuivre la synchronisation.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Enregistrer et copier le lien</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Saisissez l’adresse de votre serveur et les informations de votre compte.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Pour commencer</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>%1 pages précédentes</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Pour installer Lumivo Drive plus tard, relancez le programme d’installation.</translation>
     </message>
     <message>
@@ -524,7 +524,7 @@
         <translation>Se connecter via ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Cliquez sur «&#x202f;Installer&#x202f;» pour commencer. Cliquez sur «&#x202f;Précédent&#x202f;» pour revoir ou modifier vos choix. Cliquez sur «&#x202f;Annuler&#x202f;» pour quitter l’installation.</translation>
     </message>
     <message>
@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>Selective sync is not available yet. Update Lumivo Drive Server on your server to use it.</source>
-        <translation>La synchronisation sélective n’est pas encore disponible. Mettez à jour Lumivo Drive Server sur votre serveur pour l’utiliser.</translation>
+        <translation>La synchronisation sélective n’est pas encore disponible. Pour l’utiliser, mettez à jour Lumivo Drive Server sur votre serveur.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -564,7 +564,7 @@
         <translation>Envoyé</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Votre accès a été révoqué et les fichiers synchronisés ont été supprimés de cet ordinateur. Contactez votre administrateur.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Envoi…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Application des paramètres…</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Quitter</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Cliquez sur «&#x202f;Réparer&#x202f;» pour commencer. Cliquez sur «&#x202f;Précédent&#x202f;» pour revoir votre choix. Cliquez sur «&#x202f;Annuler&#x202f;» pour quitter l’installation.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Vous ne pouvez pas écrire dans ce dossier. Sélectionnez un autre dossier ou modifiez ses autorisations.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Vous ne pouvez pas écrire dans ce dossier. Modifiez ses autorisations ou sélectionnez un autre dossier.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Durée personnalisée</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Suivre l’état</translation>
+        <source>Check the sync status</source>
+        <translation>Consulter l’état de la synchronisation</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>Fichier</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Les applications suivantes utilisent des fichiers que le programme d’installation doit mettre à jour&#x202f;:</translation>
     </message>
     <message>
@@ -737,7 +737,7 @@
     </message>
     <message>
         <source>Keep the files on this computer and on your server in sync.</source>
-        <translation>Gardez les fichiers de cet ordinateur et de votre serveur synchronisés.</translation>
+        <translation>Gardez synchronisés les fichiers de cet ordinateur et de votre serveur.</translation>
     </message>
     <message>
         <source>Back</source>
@@ -768,8 +768,8 @@
         <translation>Le serveur n’a pas accepté la requête. Vérifiez votre saisie et réessayez.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>La version de Lumivo Drive Server est trop ancienne pour cet ordinateur. Mettez-la à jour sur votre serveur vers la version %1 ou une version ultérieure.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Cette version de Lumivo Drive Server est trop ancienne pour la version de Lumivo Drive installée sur cet ordinateur. Mettez à jour Lumivo Drive Server vers la version %1 ou une version ultérieure.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>Ce dossier est utilisé par une tâche de sauvegarde. Sélectionnez un autre dossier.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Le disque de cet ordinateur est plein.</translation>
     </message>
     <message>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>Open containing folder</source>
-        <translation>Ouvrir le dossier parent</translation>
+        <translation>Ouvrir l’emplacement du fichier</translation>
     </message>
     <message>
         <source>Connection type</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>Your account requires two-step verification. Set it up on your server, then sign in again.</source>
-        <translation>Votre compte nécessite la vérification en deux étapes. Configurez-la sur votre serveur, puis reconnectez-vous.</translation>
+        <translation>Votre compte nécessite la vérification en deux étapes. Configurez-la sur votre serveur, puis ouvrez une nouvelle session.</translation>
     </message>
     <message>
         <source>The file service is turned off on your server. Ask your administrator to turn it on.</source>
@@ -852,8 +852,8 @@
         <translation>Fichier verrouillé</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Ne pas fermer les applications (l’ordinateur devra ensuite être redémarré)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Ne pas fermer les applications (vous devrez redémarrer l’ordinateur plus tard)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Reprendre</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Cliquez sur «&#x202f;Terminer&#x202f;» pour quitter l’installation.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Fichiers en cours d’utilisation</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>L’installation s’est terminée prématurément</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>Les fichiers des deux dossiers seront fusionnés.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>Ce dossier de votre serveur est déjà synchronisé avec cet ordinateur.\nUne deuxième tâche de synchronisation pour ce dossier doublerait l’espace disque occupé.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>L’installation a été interrompue</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Erreur</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Votre serveur bloque l’adresse de cet ordinateur. Demandez à votre administrateur de l’autoriser.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Imprimer</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Bienvenue dans le programme d’installation de Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>La longueur maximale de ce champ est de %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Saisissez %1 caractères au maximum.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1004,7 +1004,7 @@
         <translation>Tout ce que vous placez dans votre dossier de synchronisation apparaît sur votre serveur et sur vos autres ordinateurs.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Le programme d’installation peut modifier, réparer ou supprimer Lumivo Drive. Cliquez sur «&#x202f;Suivant&#x202f;» pour continuer.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Sélectionnez un dossier sur votre serveur et un dossier sur cet ordinateur.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Saisissez l’adresse et le port du serveur proxy.</translation>
     </message>
     <message>
@@ -1060,8 +1060,8 @@
         <translation>Prêt à réparer Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Fichiers filtrés</translation>
+        <source>Skipped files</source>
+        <translation>Fichiers ignorés</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>Synchronisation…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Cliquez sur «&#x202f;Supprimer&#x202f;» pour supprimer Lumivo Drive de cet ordinateur. Cliquez sur «&#x202f;Précédent&#x202f;» pour revoir votre choix. Cliquez sur «&#x202f;Annuler&#x202f;» pour quitter l’installation.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Bienvenue à nouveau dans le programme d’installation de Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Espace insuffisant</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Chargement des dossiers partagés…</translation>
     </message>
     <message>
@@ -1140,8 +1140,8 @@
         <translation>Le dossier n’est pas monté sur votre serveur. Montez-le et réessayez.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Signaler les fichiers filtrés par une icône</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Signaler les fichiers ignorés par une icône</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>Suivant</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>Les deux versions des fichiers dont le contenu diffère sont conservées.</translation>
     </message>
     <message>
@@ -1168,8 +1168,8 @@
         <translation>Impossible d’afficher la liste des versions de ce fichier. Vérifiez vos autorisations sur le serveur.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
-        <translation>La réponse du serveur n’a pas pu être interprétée. Mettez à jour Lumivo Drive et réessayez.</translation>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
+        <translation>Impossible d’interpréter la réponse du serveur. Mettez à jour Lumivo Drive et réessayez.</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the installation of Lumivo Drive?</source>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Un autre serveur a été trouvé à cette adresse</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>juillet</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Certains fichiers à mettre à jour sont en cours d’utilisation.</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>Restreindre l’accès</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>Le programme d’installation va installer Lumivo Drive sur cet ordinateur. Cliquez sur «&#x202f;Suivant&#x202f;» pour continuer ou sur «&#x202f;Annuler&#x202f;» pour quitter l’installation.</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@
         <translation>Impossible de créer le dossier «&#x202f;%1&#x202f;». Vérifiez son chemin et vos autorisations.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>L’installation s’est arrêtée en raison d’une erreur.\nVotre ordinateur n’a pas été modifié.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Filtre de dossiers</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Impossible de vérifier le certificat de votre serveur. Contrôlez-le dans les paramètres de connexion.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Le fichier a été modifié à deux endroits en même temps. Les deux versions ont été conservées. Supprimez celle dont vous n’avez pas besoin.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Le certificat de votre serveur a changé. Vérifiez-le dans les paramètres de connexion.</translation>
     </message>
     <message>
@@ -1281,7 +1281,7 @@
     </message>
     <message>
         <source>Create a link to a file and send it to anyone, with a password and an end date if you like.</source>
-        <translation>Créez un lien vers un fichier et envoyez-le à qui vous voulez, avec un mot de passe et une date de fin si vous le souhaitez.</translation>
+        <translation>Créez un lien vers un fichier et envoyez-le à qui vous voulez, éventuellement avec un mot de passe et une date de fin.</translation>
     </message>
     <message>
         <source>Enter the verification code for your account.</source>
@@ -1296,8 +1296,8 @@
         <translation>Vous avez choisi de supprimer Lumivo Drive de cet ordinateur.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>Les modifications sur un lecteur réseau ne peuvent pas être surveillées. Sélectionnez un dossier sur un disque local.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>Les modifications effectuées sur un lecteur réseau ne peuvent pas être détectées. Sélectionnez un dossier sur un disque local.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1428,8 +1428,8 @@
         <translation>Afficher Lumivo Drive dans le menu contextuel</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>La version de Lumivo Drive est trop ancienne. Mettez-la à jour sur cet ordinateur.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Cette version de Lumivo Drive est trop ancienne. Mettez-la à jour sur cet ordinateur.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>Start now</source>
-        <translation>Démarrer maintenant</translation>
+        <translation>Commencer maintenant</translation>
     </message>
     <message>
         <source>Search the local network</source>
@@ -1585,7 +1585,7 @@
     </message>
     <message>
         <source>Sign-in failed</source>
-        <translation>Échec de l’authentification</translation>
+        <translation>Échec de l’ouverture de session</translation>
     </message>
     <message>
         <source>Lumivo Drive has no features that can be chosen separately.</source>
@@ -1596,7 +1596,7 @@
         <translation>Valeur</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Vous n’avez pas ouvert de session en tant qu’administrateur. Lumivo Drive ne sera installé que pour vous.\nVoulez-vous continuer&#x202f;?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Impossible de créer des liens, car le service de fichiers est désactivé. Demandez à votre administrateur de l’activer.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Fermer les applications et essayer de les redémarrer ensuite</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Ne pas synchroniser ce dossier</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Le certificat de votre serveur a changé.\nNe continuez que si vous en connaissez la raison.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>À l’instant</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Le programme d’installation est prêt à réparer Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Ce dossier est accessible en lecture seule. Les modifications effectuées sur cet ordinateur ne seront pas envoyées.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Vous n’avez pas accès à ce dossier. Demandez l’autorisation à votre administrateur.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Vos fichiers sont en cours de synchronisation. Vous pouvez continuer à travailler pendant ce temps.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Impossible de vérifier le certificat de votre serveur.\nNe continuez que si vous faites confiance à ce réseau.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Fichiers restant à synchroniser&#x202f;: %1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>Votre dossier de synchronisation</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Impossible de vérifier le certificat de votre serveur. Demandez un certificat valide à votre administrateur.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Impossible de vérifier le certificat de votre serveur. Demandez à votre administrateur d’installer un certificat valide.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,7 +1776,7 @@
         <translation>Icônes sur les fichiers locaux</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Aucune action disponible</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Désactivé</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>L’indexation de «&#x202f;%1&#x202f;» est encore en cours sur votre serveur. La synchronisation sera possible ensuite.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Votre serveur indexe encore «&#x202f;%1&#x202f;». Vous pourrez le synchroniser une fois l’indexation terminée.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Lorsqu’un fichier a été modifié à deux endroits</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Changer de dossier</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synchronisez votre dossier personnel avec les paramètres recommandés.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Chargement des dossiers…</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Prêt à installer Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Relancez le programme d’installation lorsque vous voudrez installer Lumivo Drive.</translation>
     </message>
     <message>
@@ -1876,8 +1876,8 @@
         <translation>Téléchargement…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>La nouvelle langue sera utilisée au prochain démarrage de Lumivo Drive.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>La nouvelle langue sera appliquée au prochain démarrage de Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,7 +1892,7 @@
         <translation>La configuration rapide convient à la plupart des utilisateurs. Vous pourrez tout modifier plus tard.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Le disque de votre serveur est plein.</translation>
     </message>
     <message>

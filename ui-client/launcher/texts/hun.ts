@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Files with these names will not be synced.</source>
-        <translation>Az ilyen nevű fájlok nem lesznek szinkronizálva.</translation>
+        <translation>Az ilyen nevű fájlok nem szinkronizálódnak.</translation>
     </message>
     <message>
         <source>Could not connect to your server. Check your network connection and try again.</source>
@@ -108,7 +108,7 @@
         <translation>A kapcsolat ellenőrzése...</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>A Lumivo Drive telepítője</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Ma</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>A telepítő készen áll a Lumivo Drive telepítésére ezen a számítógépen.</translation>
     </message>
     <message>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Sync this folder again</source>
-        <translation>Mappa szinkronizálása újra</translation>
+        <translation>Mappa ismételt szinkronizálása</translation>
     </message>
     <message>
         <source>No</source>
@@ -172,7 +172,7 @@
         <translation>Szinkronizálási mappa megnyitása</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>A Lumivo Drive telepítése befejeződött</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Ez a mappa átfedésben van egy másik szinkronizálási feladat mappájával. Válasszon másik mappát.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Nem sikerült lekérni a szerver mappáinak listáját. Ellenőrizze a hálózati kapcsolatot, és próbálja újra.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Figyelmet igényel</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>A szerver tanúsítványa megváltozott. A folytatás előtt ellenőrizze.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>A frissítés nem sikerült. Próbálja újra később.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>A szerver tanúsítványát nem sikerült ellenőrizni.</translation>
     </message>
     <message>
@@ -229,14 +229,14 @@
     </message>
     <message>
         <source>Sync these folders again</source>
-        <translation>Mappák szinkronizálása újra</translation>
+        <translation>Mappák ismételt szinkronizálása</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Megtelt a számítógép lemeze. A szinkronizálás folytatásához szabadítson fel helyet.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Fekete-fehér ikon használata az értesítési területen</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Néhány mező nincs helyesen kitöltve. Javítsa ki, és próbálja újra.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>A telepítés megszakadt. A számítógépen semmi sem változott.</translation>
     </message>
     <message>
@@ -264,8 +264,8 @@
         <translation>Törlés</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
-        <translation>Válasszon egy mappát a szerveren, valamint azt a helyi mappát, amellyel szinkronizálódni fog.</translation>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
+        <translation>Válasszon egy mappát a szerveren, valamint azt a helyi mappát, amellyel szinkronizálni szeretné.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -296,7 +296,7 @@
         <translation>Fájltípus</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>A beállítás módjának kiválasztása</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Nyelv</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>A(z) „%1” szinkronizálása leállt. A részletekért nyissa meg a Lumivo Drive alkalmazást.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink-azonosító</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>A szinkronizálás iránya nem felel meg a mappához tartozó jogosultságoknak. Válasszon másik irányt.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>A szinkronizálás iránya nem felel meg a mappára vonatkozó jogosultságainak. Válasszon másik irányt.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>február</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>A Lumivo Drive Server túl régi. Frissítse a szerveren.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>A Lumivo Drive Server e verziója túl régi. Frissítse a szerveren.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>Összekapcsolás újra</translation>
+        <translation>Ismételt összekapcsolás</translation>
     </message>
     <message>
         <source>History</source>
@@ -440,15 +440,15 @@
         <translation>Hálózati beállítások</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>A telepítő érvényesíti a választott beállításokat.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
-        <translation>Azok a mappák, amelyeknek itt törli a jelölését, el lesznek távolítva erről a számítógépről. A szerveren megmaradnak.</translation>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
+        <translation>A program eltávolítja erről a számítógépről azokat a mappákat, amelyeknek itt törli a jelölését. A szerveren megmaradnak.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Megtelt a szerver lemeze. A szinkronizálás folytatásához szabadítson fel rajta helyet.</translation>
     </message>
     <message>
@@ -468,23 +468,23 @@
         <translation>Mentés és a hivatkozás másolása</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Adja meg a szerver címét és a fiókja adatait.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
-        <translation>Kezdjük el</translation>
+        <source>Let&apos;s get started</source>
+        <translation>Kezdjünk hozzá</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
-        <translation>Nincs menthető módosítás.</translation>
+        <translation>Nincs mentendő módosítás.</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
         <translation>Előző %1 oldal</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Ha később szeretné telepíteni a Lumivo Drive alkalmazást, futtassa újra a telepítőt.</translation>
     </message>
     <message>
@@ -501,7 +501,7 @@
     </message>
     <message>
         <source>Lumivo Drive could not be started. Restart the computer and try again.</source>
-        <translation>A Lumivo Drive nem indítható el. Indítsa újra a számítógépet, és próbálja újra.</translation>
+        <translation>Nem sikerült elindítani a Lumivo Drive alkalmazást. Indítsa újra a számítógépet, és próbálja újra.</translation>
     </message>
     <message>
         <source>Keep the version on the server</source>
@@ -524,7 +524,7 @@
         <translation>Kapcsolódás a ZephLink segítségével</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>A kezdéshez kattintson a Telepítés gombra. A választott beállítások áttekintéséhez vagy módosításához kattintson a Vissza gombra. A telepítőből való kilépéshez kattintson a Mégse gombra.</translation>
     </message>
     <message>
@@ -564,8 +564,8 @@
         <translation>Feltöltve</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
-        <translation>A hozzáférését visszavonták, és a szinkronizált fájlok el lettek távolítva erről a számítógépről. Forduljon a rendszergazdához.</translation>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
+        <translation>A hozzáférését visszavonták, és a szinkronizált fájlokat eltávolították erről a számítógépről. Forduljon a rendszergazdához.</translation>
     </message>
     <message>
         <source>Standby</source>
@@ -580,7 +580,7 @@
         <translation>Feltöltés...</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>A beállítások alkalmazása...</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Kilépés</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>A kezdéshez kattintson a Javítás gombra. A választás áttekintéséhez kattintson a Vissza gombra. A telepítőből való kilépéshez kattintson a Mégse gombra.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Ebbe a mappába nem írhat. Válasszon másik mappát, vagy módosítsa a mappa jogosultságait.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Ebbe a mappába nem írhat. Módosítsa a mappa jogosultságait, vagy válasszon másik mappát.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Egyéni időtartam</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Az állapot figyelése</translation>
+        <source>Check the sync status</source>
+        <translation>A szinkronizálás állapotának megtekintése</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>Fájl</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell:</translation>
     </message>
     <message>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Choose the folders, the sync direction and the sync rules yourself.</source>
-        <translation>Válassza ki saját maga a mappákat, a szinkronizálás irányát és a szinkronizálási szabályokat.</translation>
+        <translation>Saját maga választhatja ki a mappákat, a szinkronizálás irányát és a szinkronizálási szabályokat.</translation>
     </message>
     <message>
         <source>Repair the installed files</source>
@@ -768,8 +768,8 @@
         <translation>A szerver nem fogadta el a kérést. Ellenőrizze a megadott adatokat, és próbálja újra.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>A Lumivo Drive Server túl régi ehhez a számítógéphez. Frissítse a szerveren legalább a következő verzióra: %1.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>A Lumivo Drive Server e verziója túl régi a számítógépen lévő Lumivo Drive alkalmazáshoz. Frissítse a szerveren legalább a következő verzióra: %1.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>Ezt a mappát egy biztonsági mentési feladat használja. Válasszon másik mappát.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Megtelt a számítógép lemeze.</translation>
     </message>
     <message>
@@ -852,8 +852,8 @@
         <translation>Zárolt fájl</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Az alkalmazások nyitva hagyása (utána újra kell indítani a számítógépet)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Az alkalmazások nyitva hagyása (később újra kell indítania a számítógépet)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Folytatás</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>A telepítőből való kilépéshez kattintson a Befejezés gombra.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Használatban lévő fájlok</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>A telepítés idő előtt véget ért</translation>
     </message>
     <message>
@@ -925,14 +925,14 @@
     </message>
     <message>
         <source>The files in both folders will be merged.</source>
-        <translation>A két mappában lévő fájlok egyesítve lesznek.</translation>
+        <translation>A program egyesíti a két mappában lévő fájlokat.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
-        <translation>Ez a szerveren lévő mappa már szinkronizálva van ezzel a számítógéppel.\nEgy második szinkronizálási feladattal kétszer annyi lemezterületet foglal.</translation>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
+        <translation>Ez a szerveren lévő mappa már szinkronizálva van ezzel a számítógéppel.\nEgy második szinkronizálási feladattal kétszer annyi lemezterületet foglalna.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>A telepítés megszakadt</translation>
     </message>
     <message>
@@ -956,8 +956,8 @@
         <translation>Hiba</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
-        <translation>A szerver letiltja ennek a számítógépnek a címét. Kérje meg a rendszergazdát, hogy engedélyezze.</translation>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
+        <translation>A szerver tiltja ennek a számítógépnek a címét. Kérje meg a rendszergazdát, hogy engedélyezze.</translation>
     </message>
     <message>
         <source>Checking your username and password...</source>
@@ -968,12 +968,12 @@
         <translation>Nyomtatás</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Üdvözli a Lumivo Drive telepítője</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>Ennek a mezőnek a maximális hossza %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Legfeljebb %1 karaktert adjon meg.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1004,7 +1004,7 @@
         <translation>Minden, amit a szinkronizálási mappába tesz, megjelenik a szerveren és a többi számítógépén.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>A telepítő módosíthatja, javíthatja vagy eltávolíthatja a Lumivo Drive alkalmazást. A folytatáshoz kattintson a Tovább gombra.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Válasszon egy mappát a szerveren és egy mappát ezen a számítógépen.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Adja meg a proxyszerver címét és portját.</translation>
     </message>
     <message>
@@ -1060,8 +1060,8 @@
         <translation>Készen áll a Lumivo Drive javítására</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Kiszűrt fájlok</translation>
+        <source>Skipped files</source>
+        <translation>Kihagyott fájlok</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>Szinkronizálás...</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Ha el szeretné távolítani a Lumivo Drive alkalmazást erről a számítógépről, kattintson az Eltávolítás gombra. A választás áttekintéséhez kattintson a Vissza gombra. A telepítőből való kilépéshez kattintson a Mégse gombra.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Újra üdvözli a Lumivo Drive telepítője</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Nincs több hely</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Megosztott mappák betöltése...</translation>
     </message>
     <message>
@@ -1140,8 +1140,8 @@
         <translation>A szerveren lévő mappa nincs csatolva. Csatolja ott, és próbálja újra.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>A kiszűrt fájlok megjelölése ikonnal</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>A kihagyott fájlok megjelölése ikonnal</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,12 +1152,12 @@
         <translation>Tovább</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>Az eltérő tartalmú fájlok mindkét verziója megmarad.</translation>
     </message>
     <message>
         <source>This folder is already synced. Do you want to add it again?</source>
-        <translation>Ez a mappa már szinkronizálva van. Hozzáadja újra?</translation>
+        <translation>Ez a mappa már szinkronizálva van. Újra hozzáadja?</translation>
     </message>
     <message>
         <source>Advanced settings</source>
@@ -1168,7 +1168,7 @@
         <translation>Ennek a fájlnak a verziói nem jeleníthetők meg. Ellenőrizze a jogosultságait a szerveren.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>A szerver válasza nem értelmezhető. Frissítse a Lumivo Drive alkalmazást, és próbálja újra.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Ezen a címen egy másik szerver található</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>július</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Néhány frissítendő fájl használatban van.</translation>
     </message>
     <message>
@@ -1228,8 +1228,8 @@
         <translation>Hozzáférés korlátozása</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
-        <translation>A telepítő telepíti a Lumivo Drive alkalmazást erre a számítógépre. A folytatáshoz kattintson a Tovább, a telepítőből való kilépéshez a Mégse gombra.</translation>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
+        <translation>A telepítő telepíteni fogja a Lumivo Drive alkalmazást erre a számítógépre. A folytatáshoz kattintson a Tovább, a telepítőből való kilépéshez a Mégse gombra.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1240,7 +1240,7 @@
         <translation>Nem sikerült létrehozni a(z) „%1” mappát. Ellenőrizze az elérési utat és a jogosultságait.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>A telepítés hiba miatt véget ért.\nA számítógépen semmi sem változott.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Mappaszűrő</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>A szerver tanúsítványát nem sikerült ellenőrizni. Nézze meg a kapcsolati beállításokban.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>A fájl egyszerre két helyen módosult. Mindkét verzió megmaradt. Törölje azt, amelyikre nincs szüksége.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>A szerver tanúsítványa megváltozott. Ellenőrizze a kapcsolati beállításokban.</translation>
     </message>
     <message>
@@ -1293,11 +1293,11 @@
     </message>
     <message>
         <source>You have chosen to remove Lumivo Drive from this computer.</source>
-        <translation>A Lumivo Drive erről a számítógépről való eltávolítását választotta.</translation>
+        <translation>Úgy döntött, hogy eltávolítja a Lumivo Drive alkalmazást erről a számítógépről.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>A hálózati meghajtó változásai nem figyelhetők. Válasszon egy helyi lemezen lévő mappát.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>A hálózati meghajtó változásai nem észlelhetők. Válasszon egy helyi lemezen lévő mappát.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1377,7 +1377,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Idő</translation>
+        <translation>Időpont</translation>
     </message>
     <message>
         <source>%1 h ago</source>
@@ -1428,8 +1428,8 @@
         <translation>A Lumivo Drive megjelenítése a helyi menüben</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>A Lumivo Drive túl régi. Frissítse ezen a számítógépen.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>A Lumivo Drive e verziója túl régi. Frissítse ezen a számítógépen.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>Start now</source>
-        <translation>Indítás most</translation>
+        <translation>Kezdés most</translation>
     </message>
     <message>
         <source>Search the local network</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>The folder is not empty. Its files will be merged with the files on your server.</source>
-        <translation>A mappa nem üres. A benne lévő fájlok egyesítve lesznek a szerveren lévő fájlokkal.</translation>
+        <translation>A mappa nem üres. A program a benne lévő fájlokat egyesíti a szerveren lévőkkel.</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -1573,7 +1573,7 @@
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
-        <translation>Ez a megosztott mappa a továbbiakban nem lesz szinkronizálva. A számítógépen már meglévő fájlok megmaradnak.</translation>
+        <translation>Ez a megosztott mappa a továbbiakban nem szinkronizálódik. A számítógépen már meglévő fájlok megmaradnak.</translation>
     </message>
     <message>
         <source>File extensions to skip</source>
@@ -1596,15 +1596,15 @@
         <translation>Érték</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
-        <translation>Nem rendszergazdaként jelentkezett be. A Lumivo Drive csak az Ön számára lesz telepítve.\nFolytatja?</translation>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
+        <translation>Nem rendszergazdaként jelentkezett be. A telepítő csak az Ön számára telepíti a Lumivo Drive alkalmazást.\nFolytatja?</translation>
     </message>
     <message>
         <source>Links cannot be created because the file service is turned off. Ask your administrator to turn it on.</source>
         <translation>Nem hozhatók létre hivatkozások, mert a fájlszolgáltatás ki van kapcsolva. Kérje meg a rendszergazdát, hogy kapcsolja be.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Az alkalmazások bezárása, majd az újraindításuk megkísérlése</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Mappa kihagyása a szinkronizálásból</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>A szerver tanúsítványa megváltozott.\nCsak akkor folytassa, ha ismeri az okát.</translation>
     </message>
     <message>
@@ -1684,15 +1684,15 @@
         <translation>Az imént</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>A telepítő készen áll a Lumivo Drive javítására.</translation>
     </message>
     <message>
         <source>You can only read this folder. Changes on this computer will not be uploaded.</source>
-        <translation>Ezt a mappát csak olvashatja. Az ezen a számítógépen végzett módosítások nem lesznek feltöltve.</translation>
+        <translation>Ezt a mappát csak olvashatja. Az ezen a számítógépen végzett módosítások nem töltődnek fel.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Nincs hozzáférése ehhez a mappához. Kérjen jogosultságot a rendszergazdától.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>A fájlok szinkronizálása folyamatban van. Közben tovább dolgozhat.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>A szerver tanúsítványát nem sikerült ellenőrizni.\nCsak akkor folytassa, ha megbízik ebben a hálózatban.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Még szinkronizálandó fájlok: %1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>A szinkronizálási mappa</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>A szerver tanúsítványát nem sikerült ellenőrizni. Kérjen érvényes tanúsítványt a rendszergazdától.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>A szerver tanúsítványát nem sikerült ellenőrizni. Kérje meg a rendszergazdát, hogy telepítsen érvényes tanúsítványt.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,7 +1776,7 @@
         <translation>Ikonok a helyi fájlokon</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Nincs elérhető művelet</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Kikapcsolva</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>A szerver még indexeli a(z) „%1” mappát. Utána szinkronizálható lesz.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>A szerver még indexeli a(z) „%1” mappát. Az indexelés befejezése után szinkronizálhatja.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Ha egy fájl két helyen módosult</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Mappa módosítása</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
-        <translation>Szinkronizálja a saját mappáját az ajánlott beállításokkal.</translation>
+        <source>Sync your home folder using the recommended settings.</source>
+        <translation>Szinkronizálja a saját mappáját az ajánlott beállítások alapján.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Mappák betöltése...</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Készen áll a Lumivo Drive telepítésére</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Futtassa újra a telepítőt, amikor telepíteni szeretné a Lumivo Drive alkalmazást.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Letöltés...</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
         <translation>Az új nyelv a Lumivo Drive következő indításakor lép életbe.</translation>
     </message>
     <message>
@@ -1892,7 +1892,7 @@
         <translation>A gyors beállítás a legtöbb felhasználónak megfelel. Később bármit módosíthat.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Megtelt a szerver lemeze.</translation>
     </message>
     <message>

@@ -108,7 +108,7 @@
         <translation>Verifica della connessione…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Installazione di Lumivo Drive</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Oggi</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Il programma di installazione è pronto per installare Lumivo Drive su questo computer.</translation>
     </message>
     <message>
@@ -172,7 +172,7 @@
         <translation>Apri cartella di sincronizzazione</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive è stato installato</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Questa cartella si sovrappone a quella di un’altra attività di sincronizzazione. Selezionare un’altra cartella.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Impossibile elencare le cartelle del server. Controllare la connessione di rete e riprovare.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Intervento richiesto</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Il certificato del server è cambiato. Controllarlo prima di continuare.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>Aggiornamento non riuscito. Riprovare più tardi.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Impossibile verificare il certificato del server.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Sincronizza di nuovo queste cartelle</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Il disco di questo computer è pieno. Liberare spazio per continuare la sincronizzazione.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Usa un’icona in bianco e nero nell’area di notifica</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Alcuni campi non sono compilati correttamente. Correggerli e riprovare.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>L’installazione è stata interrotta. Il computer non è stato modificato.</translation>
     </message>
     <message>
@@ -264,8 +264,8 @@
         <translation>Elimina</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
-        <translation>Scegliere una cartella sul server e la cartella locale con cui si sincronizza.</translation>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
+        <translation>Scegliere una cartella sul server e la cartella locale con cui sincronizzarla.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -296,7 +296,7 @@
         <translation>Tipo di file</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Scegliere la modalità di configurazione</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Lingua</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>La sincronizzazione di “%1” si è interrotta. Aprire Lumivo Drive per i dettagli.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ID ZephLink</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>La direzione di sincronizzazione non corrisponde alle autorizzazioni di questa cartella. Scegliere un’altra direzione.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>La direzione di sincronizzazione non corrisponde alle autorizzazioni dell’utente per questa cartella. Scegliere un’altra direzione.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>febbraio</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>La versione di Lumivo Drive Server è troppo vecchia. Aggiornarla sul server.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Questa versione di Lumivo Drive Server è troppo vecchia. Aggiornarla sul server.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>Impostazioni di rete</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Il programma di installazione sta applicando le scelte effettuate.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Le cartelle deselezionate qui verranno rimosse da questo computer. Rimarranno sul server.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Il disco del server è pieno. Liberare spazio sul server per continuare la sincronizzazione.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Salva e copia link</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Immettere l’indirizzo del server e i dati dell’account.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Per iniziare</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>%1 pagine precedenti</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Per installare Lumivo Drive in un secondo momento, eseguire di nuovo il programma di installazione.</translation>
     </message>
     <message>
@@ -524,7 +524,7 @@
         <translation>Connetti tramite ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Fare clic su “Installa” per iniziare. Fare clic su “Indietro” per rivedere o modificare le scelte. Fare clic su “Annulla” per uscire dall’installazione.</translation>
     </message>
     <message>
@@ -561,10 +561,10 @@
     </message>
     <message>
         <source>Uploaded</source>
-        <translation>Caricato</translation>
+        <translation>Caricato sul server</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>L’accesso è stato revocato e i file sincronizzati sono stati rimossi da questo computer. Contattare l’amministratore.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Caricamento sul server…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Applicazione delle impostazioni…</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Esci</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Fare clic su “Ripara” per iniziare. Fare clic su “Indietro” per rivedere la scelta. Fare clic su “Annulla” per uscire dall’installazione.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Impossibile scrivere in questa cartella. Selezionare un’altra cartella o modificarne le autorizzazioni.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Impossibile scrivere in questa cartella. Modificarne le autorizzazioni o selezionare un’altra cartella.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Periodo personalizzato</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Controllare lo stato</translation>
+        <source>Check the sync status</source>
+        <translation>Controllare lo stato della sincronizzazione</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,8 +700,8 @@
         <translation>File</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
-        <translation>Le seguenti applicazioni usano file che il programma di installazione deve aggiornare:</translation>
+        <source>The following applications are using files that Setup needs to update:</source>
+        <translation>Le seguenti applicazioni stanno usando file che il programma di installazione deve aggiornare:</translation>
     </message>
     <message>
         <source>Open Lumivo Drive</source>
@@ -768,8 +768,8 @@
         <translation>Il server non ha accettato la richiesta. Controllare i dati immessi e riprovare.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>La versione di Lumivo Drive Server è troppo vecchia per questo computer. Aggiornarla sul server alla versione %1 o successiva.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Questa versione di Lumivo Drive Server è troppo vecchia per la versione di Lumivo Drive installata su questo computer. Aggiornare Lumivo Drive Server alla versione %1 o successiva.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>Questa cartella è usata da un’attività di backup. Selezionare un’altra cartella.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Il disco di questo computer è pieno.</translation>
     </message>
     <message>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>Open containing folder</source>
-        <translation>Apri cartella superiore</translation>
+        <translation>Apri percorso file</translation>
     </message>
     <message>
         <source>Connection type</source>
@@ -841,7 +841,7 @@
     </message>
     <message>
         <source>Add a sync task</source>
-        <translation>Aggiungi attività di sincronizzazione</translation>
+        <translation>Aggiungere un’attività di sincronizzazione</translation>
     </message>
     <message>
         <source>Share with others</source>
@@ -852,7 +852,7 @@
         <translation>File bloccato</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
         <translation>Non chiudere le applicazioni (in seguito sarà necessario riavviare il computer)</translation>
     </message>
     <message>
@@ -880,7 +880,7 @@
         <translation>Riprendi</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Fare clic su “Fine” per uscire dall’installazione.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>File in uso</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>L’installazione è terminata prematuramente</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>I file delle due cartelle verranno uniti.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>Questa cartella del server è già sincronizzata con questo computer.\nUna seconda attività di sincronizzazione occuperebbe il doppio dello spazio su disco.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>L’installazione è stata interrotta</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Errore</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Il server blocca l’indirizzo di questo computer. Chiedere all’amministratore di consentirlo.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Stampa</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Benvenuti nell’installazione di Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>La lunghezza massima di questo campo è %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Immettere al massimo %1 caratteri.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1004,7 +1004,7 @@
         <translation>Tutto ciò che si inserisce nella cartella di sincronizzazione compare sul server e sugli altri computer.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Il programma di installazione può modificare, riparare o rimuovere Lumivo Drive. Fare clic su “Avanti” per continuare.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Selezionare una cartella sul server e una cartella su questo computer.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Immettere l’indirizzo e la porta del server proxy.</translation>
     </message>
     <message>
@@ -1060,8 +1060,8 @@
         <translation>Pronto per riparare Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>File filtrati</translation>
+        <source>Skipped files</source>
+        <translation>File ignorati</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>Sincronizzazione in corso…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Fare clic su “Rimuovi” per rimuovere Lumivo Drive da questo computer. Fare clic su “Indietro” per rivedere la scelta. Fare clic su “Annulla” per uscire dall’installazione.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Bentornati nell’installazione di Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Spazio esaurito</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Caricamento delle cartelle condivise…</translation>
     </message>
     <message>
@@ -1140,8 +1140,8 @@
         <translation>La cartella sul server non è montata. Montarla sul server e riprovare.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Contrassegna i file filtrati con un’icona</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Contrassegna i file ignorati con un’icona</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>Avanti</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>Dei file con contenuti diversi vengono conservate entrambe le versioni.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>Impossibile elencare le versioni di questo file. Controllare le autorizzazioni sul server.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Impossibile interpretare la risposta del server. Aggiornare Lumivo Drive e riprovare.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Porta</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>È stato trovato un altro server a questo indirizzo</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>luglio</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Alcuni file da aggiornare sono in uso.</translation>
     </message>
     <message>
@@ -1228,19 +1228,19 @@
         <translation>Limita l’accesso</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
-        <translation>Il programma di installazione installa Lumivo Drive su questo computer. Fare clic su “Avanti” per continuare o su “Annulla” per uscire dall’installazione.</translation>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
+        <translation>Il programma di installazione installerà Lumivo Drive su questo computer. Fare clic su “Avanti” per continuare o su “Annulla” per uscire dall’installazione.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
-        <translation>Immettere l’indirizzo del server o il relativo ID ZephLink, il nome utente e la password.</translation>
+        <translation>Immettere l’indirizzo o l’ID ZephLink del server, il nome utente e la password.</translation>
     </message>
     <message>
         <source>Could not create the folder &quot;%1&quot;. Check its path and your permissions.</source>
         <translation>Impossibile creare la cartella “%1”. Controllare il percorso e le autorizzazioni.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>L’installazione è terminata a causa di un errore.\nIl computer non è stato modificato.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Filtro delle cartelle</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Impossibile verificare il certificato del server. Controllarlo nelle impostazioni di connessione.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Il file è stato modificato in due posizioni contemporaneamente. Entrambe le versioni sono state conservate. Eliminare quella non necessaria.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Il certificato del server è cambiato. Controllarlo nelle impostazioni di connessione.</translation>
     </message>
     <message>
@@ -1293,11 +1293,11 @@
     </message>
     <message>
         <source>You have chosen to remove Lumivo Drive from this computer.</source>
-        <translation>È stata scelta la rimozione di Lumivo Drive da questo computer.</translation>
+        <translation>Si è scelto di rimuovere Lumivo Drive da questo computer.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>Non è possibile monitorare le modifiche su un’unità di rete. Selezionare una cartella su un disco locale.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>Non è possibile rilevare le modifiche su un’unità di rete. Selezionare una cartella su un disco locale.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1428,8 +1428,8 @@
         <translation>Mostra Lumivo Drive nel menu contestuale</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>La versione di Lumivo Drive è troppo vecchia. Aggiornarla su questo computer.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Questa versione di Lumivo Drive è troppo vecchia. Aggiornarla su questo computer.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>Start now</source>
-        <translation>Avvia ora</translation>
+        <translation>Inizia ora</translation>
     </message>
     <message>
         <source>Search the local network</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>The folder is not empty. Its files will be merged with the files on your server.</source>
-        <translation>La cartella non è vuota. I relativi file verranno uniti a quelli sul server.</translation>
+        <translation>La cartella non è vuota. I file che contiene verranno uniti a quelli sul server.</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -1596,7 +1596,7 @@
         <translation>Valore</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>L’accesso non è stato effettuato come amministratore. Lumivo Drive verrà installato solo per l’utente corrente.\nContinuare?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Impossibile creare link perché il servizio file è disattivato. Chiedere all’amministratore di attivarlo.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Chiudi le applicazioni e tenta di riavviarle in seguito</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Non sincronizzare questa cartella</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Il certificato del server è cambiato.\nContinuare solo se se ne conosce il motivo.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Adesso</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Il programma di installazione è pronto per riparare Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Questa cartella è di sola lettura. Le modifiche su questo computer non verranno caricate sul server.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Accesso a questa cartella non consentito. Chiedere l’autorizzazione all’amministratore.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Sincronizzazione dei file in corso. Nel frattempo è possibile continuare a lavorare.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Impossibile verificare il certificato del server.\nContinuare solo se si considera attendibile questa rete.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>File ancora da sincronizzare: %1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>La cartella di sincronizzazione</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Impossibile verificare il certificato del server. Chiederne uno valido all’amministratore.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Impossibile verificare il certificato del server. Chiedere all’amministratore di installarne uno valido.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,7 +1776,7 @@
         <translation>Icone sui file locali</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Nessuna azione disponibile</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Disattivato</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>Il server sta ancora indicizzando “%1”. Al termine sarà possibile sincronizzare la cartella.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Il server sta ancora indicizzando “%1”. Sarà possibile sincronizzare la cartella al termine dell’indicizzazione.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Quando un file è stato modificato in due posizioni</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Cambia cartella</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Sincronizza la cartella personale con le impostazioni consigliate.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Caricamento delle cartelle…</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Pronto per installare Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Eseguire di nuovo il programma di installazione quando si desidera installare Lumivo Drive.</translation>
     </message>
     <message>
@@ -1876,8 +1876,8 @@
         <translation>Download in corso…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>La nuova lingua verrà usata al prossimo avvio di Lumivo Drive.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>La nuova lingua avrà effetto al prossimo avvio di Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,7 +1892,7 @@
         <translation>La configurazione rapida è adatta alla maggior parte degli utenti. Sarà possibile modificare tutto in seguito.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Il disco del server è pieno.</translation>
     </message>
     <message>

@@ -108,7 +108,7 @@
         <translation>接続をテストしています...</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Lumivo Drive セットアップ</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>今日</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Lumivo Drive をこのコンピューターにインストールする準備ができました。</translation>
     </message>
     <message>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>This computer is already linked to &quot;%1&quot;. Edit the existing connection instead.</source>
-        <translation>このコンピューターはすでに「%1」にリンクされています。代わりに既存の接続を編集してください。</translation>
+        <translation>このコンピューターはすでに「%1」にリンクされています。既存の接続を編集してください。</translation>
     </message>
     <message>
         <source>Update available</source>
@@ -172,7 +172,7 @@
         <translation>同期フォルダーを開く</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive をインストールしました</translation>
     </message>
     <message>
@@ -184,15 +184,15 @@
         <translation>このフォルダーは別の同期タスクのフォルダーと重複しています。別のフォルダーを選択してください。</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
-        <translation>サーバーのフォルダーを一覧表示できませんでした。ネットワーク接続を確認して、もう一度お試しください。</translation>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
+        <translation>サーバー上のフォルダーを一覧表示できませんでした。ネットワーク接続を確認して、もう一度お試しください。</translation>
     </message>
     <message>
         <source>Needs attention</source>
         <translation>確認が必要</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>サーバーの証明書が変更されました。続行する前に確認してください。</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>更新できませんでした。後でもう一度お試しください。</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>サーバーの証明書を検証できませんでした。</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>これらのフォルダーの同期を再開</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>このコンピューターのディスクに空き容量がありません。同期を続けるには空き容量を増やしてください。</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>白黒のトレイアイコンを使用</translation>
     </message>
     <message>
@@ -244,8 +244,8 @@
         <translation>正しく入力されていない項目があります。修正してもう一度お試しください。</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
-        <translation>セットアップが中断されました。コンピューターは変更されていません。</translation>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
+        <translation>セットアップが中断されました。コンピューターに変更は加えられていません。</translation>
     </message>
     <message>
         <source>Folder not found</source>
@@ -264,7 +264,7 @@
         <translation>削除</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>サーバー上のフォルダーと、それと同期するローカルフォルダーを選択してください。</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>ファイルの種類</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>セットアップ方法の選択</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>言語</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>「%1」の同期が停止しました。詳細を確認するには Lumivo Drive を開いてください。</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>同期の方向がこのフォルダーの権限と一致しません。別の方向を選択してください。</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>同期の方向が、このフォルダーに対する権限と一致しません。別の方向を選択してください。</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>2月</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server のバージョンが古すぎます。サーバーで更新してください。</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>このバージョンの Lumivo Drive Server は古すぎます。サーバーで更新してください。</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>ネットワーク設定</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>選択した内容を適用しています。</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>ここで選択を解除したフォルダーは、このコンピューターから削除されます。サーバー上のフォルダーは残ります。</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>サーバーのディスクに空き容量がありません。同期を続けるには空き容量を増やしてください。</translation>
     </message>
     <message>
@@ -468,12 +468,12 @@
         <translation>保存して共有リンクをコピー</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
-        <translation>サーバーのアドレスとアカウントを入力してください。</translation>
+        <source>Enter your server&apos;s address and your account details.</source>
+        <translation>サーバーのアドレスとアカウント情報を入力してください。</translation>
     </message>
     <message>
-        <source>Let us get started</source>
-        <translation>さあ、始めましょう</translation>
+        <source>Let&apos;s get started</source>
+        <translation>始めましょう</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
@@ -484,7 +484,7 @@
         <translation>前の %1 ページ</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>後で Lumivo Drive をインストールするには、セットアッププログラムをもう一度実行してください。</translation>
     </message>
     <message>
@@ -524,7 +524,7 @@
         <translation>ZephLink 経由で接続</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>開始するには「インストール」をクリックします。選択内容を確認または変更するには「戻る」をクリックします。セットアップを終了するには「キャンセル」をクリックします。</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>アップロード</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>アクセス権が取り消され、同期されたファイルはこのコンピューターから削除されました。管理者に連絡してください。</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>アップロードしています...</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>設定を適用しています...</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>終了</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>開始するには「修復」をクリックします。選択内容を確認するには「戻る」をクリックします。セットアップを終了するには「キャンセル」をクリックします。</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>このフォルダーには書き込めません。別のフォルダーを選択するか、権限を変更してください。</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>このフォルダーには書き込めません。フォルダーの権限を変更するか、別のフォルダーを選択してください。</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>期間を指定</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>ステータスを確認</translation>
+        <source>Check the sync status</source>
+        <translation>同期ステータスを確認</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>ファイル</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>セットアッププログラムが更新する必要のあるファイルを、次のアプリケーションが使用しています:</translation>
     </message>
     <message>
@@ -768,8 +768,8 @@
         <translation>サーバーが要求を受け付けませんでした。入力内容を確認して、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server のバージョンが古すぎるため、このコンピューターでは使用できません。サーバーでバージョン %1 以降に更新してください。</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>このバージョンの Lumivo Drive Server は古すぎるため、このコンピューターの Lumivo Drive では使用できません。サーバーでバージョン %1 以降に更新してください。</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>このフォルダーはバックアップタスクで使用されています。別のフォルダーを選択してください。</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>このコンピューターのディスクに空き容量がありません。</translation>
     </message>
     <message>
@@ -852,7 +852,7 @@
         <translation>ロック中のファイル</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
         <translation>アプリケーションを閉じない (後でコンピューターの再起動が必要)</translation>
     </message>
     <message>
@@ -880,7 +880,7 @@
         <translation>再開</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>「完了」をクリックしてセットアップを終了してください。</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>使用中のファイル</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>セットアップが途中で終了しました</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>両方のフォルダーのファイルが統合されます。</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
-        <translation>サーバー上のこのフォルダーは、すでにこのコンピューターと同期されています。\n2 つ目の同期タスクを追加すると、ディスク容量が二重に使用されます。</translation>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
+        <translation>サーバー上のこのフォルダーは、すでにこのコンピューターと同期されています。\n2 つ目の同期タスクを追加すると、ディスク容量が 2 倍必要になります。</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>セットアップが中断されました</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>エラー</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>サーバーがこのコンピューターのアドレスをブロックしています。許可するよう管理者に依頼してください。</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>印刷</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Lumivo Drive のセットアップへようこそ</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>この項目の最大文字数は %1 です。</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>%1 文字以内で入力してください。</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1004,7 +1004,7 @@
         <translation>同期フォルダーに入れたものはすべて、サーバーとほかのコンピューターにも表示されます。</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>セットアッププログラムでは Lumivo Drive の変更、修復、または削除を行えます。続行するには「次へ」をクリックしてください。</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>サーバー上のフォルダーとこのコンピューター上のフォルダーを選択してください。</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>プロキシサーバーのアドレスとポートを入力してください。</translation>
     </message>
     <message>
@@ -1060,7 +1060,7 @@
         <translation>Lumivo Drive を修復する準備ができました</translation>
     </message>
     <message>
-        <source>Filtered files</source>
+        <source>Skipped files</source>
         <translation>除外されたファイル</translation>
     </message>
     <message>
@@ -1092,11 +1092,11 @@
         <translation>同期しています...</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Lumivo Drive をこのコンピューターから削除するには「削除」をクリックします。選択内容を確認するには「戻る」をクリックします。セットアップを終了するには「キャンセル」をクリックします。</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Lumivo Drive のセットアップへようこそ</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>空き容量なし</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>共有フォルダーを読み込んでいます...</translation>
     </message>
     <message>
@@ -1140,7 +1140,7 @@
         <translation>サーバー上のフォルダーがマウントされていません。サーバーでマウントして、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
+        <source>Mark skipped files with an icon</source>
         <translation>除外されたファイルにアイコンを表示</translation>
     </message>
     <message>
@@ -1152,7 +1152,7 @@
         <translation>次へ</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>内容の異なるファイルは、両方のバージョンが残されます。</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>このファイルのバージョンを一覧表示できません。サーバーでの権限を確認してください。</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>サーバーの応答を解釈できませんでした。Lumivo Drive を更新して、もう一度お試しください。</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>ポート</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>このアドレスで別のサーバーが見つかりました</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>7月</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>更新が必要なファイルの一部が使用中です。</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>アクセスを制限</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>このコンピューターに Lumivo Drive をインストールします。続行するには「次へ」を、セットアップを終了するには「キャンセル」をクリックしてください。</translation>
     </message>
     <message>
@@ -1240,8 +1240,8 @@
         <translation>フォルダー「%1」を作成できませんでした。パスと権限を確認してください。</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
-        <translation>エラーのためセットアップが終了しました。\nコンピューターは変更されていません。</translation>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
+        <translation>エラーのためセットアップが終了しました。\nコンピューターに変更は加えられていません。</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete some files to continue syncing.</source>
@@ -1252,7 +1252,7 @@
         <translation>フォルダーフィルター</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>サーバーの証明書を検証できませんでした。接続設定で確認してください。</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>ファイルが 2 か所で同時に変更されました。両方のバージョンが残されています。不要なほうを削除してください。</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>サーバーの証明書が変更されました。接続設定で確認してください。</translation>
     </message>
     <message>
@@ -1296,8 +1296,8 @@
         <translation>Lumivo Drive をこのコンピューターから削除しようとしています。</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>ネットワークドライブ上の変更は監視できません。ローカルディスク上のフォルダーを選択してください。</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>ネットワークドライブ上の変更は検出できません。ローカルディスク上のフォルダーを選択してください。</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1428,8 +1428,8 @@
         <translation>コンテキストメニューに Lumivo Drive を表示</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive のバージョンが古すぎます。このコンピューターで更新してください。</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>このバージョンの Lumivo Drive は古すぎます。このコンピューターで更新してください。</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1537,7 +1537,7 @@
     </message>
     <message>
         <source>You can bring back a version that you overwrote or deleted.</source>
-        <translation>上書きまたは削除したバージョンを元に戻すことができます。</translation>
+        <translation>上書きまたは削除したバージョンを復元できます。</translation>
     </message>
     <message>
         <source>Sunday</source>
@@ -1596,7 +1596,7 @@
         <translation>値</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>管理者としてサインインしていません。Lumivo Drive は現在のユーザーにのみインストールされます。\n続行しますか?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>ファイルサービスがオフになっているため、共有リンクを作成できません。オンにするよう管理者に依頼してください。</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>アプリケーションを閉じて、後で再起動を試みる</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>このフォルダーを同期しない</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>サーバーの証明書が変更されました。\n変更の理由がわかっている場合にのみ続行してください。</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>たった今</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Lumivo Drive を修復する準備ができました。</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>このフォルダーは読み取りのみ可能です。このコンピューターでの変更はアップロードされません。</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>このフォルダーへのアクセス権がありません。権限を付与するよう管理者に依頼してください。</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>ファイルを同期しています。その間も作業を続けることができます。</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>サーバーの証明書を検証できませんでした。\nこのネットワークを信頼できる場合にのみ続行してください。</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>同期待ちのファイル: %1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>同期フォルダー</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>サーバーの証明書を検証できませんでした。有効な証明書を用意するよう管理者に依頼してください。</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>サーバーの証明書を検証できませんでした。有効な証明書をインストールするよう管理者に依頼してください。</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,7 +1776,7 @@
         <translation>ローカルファイルのアイコン</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>利用できる操作はありません</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>無効</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
         <translation>サーバーがまだ「%1」のインデックスを作成しています。完了すると同期できるようになります。</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>ファイルが 2 か所で変更されたとき</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>フォルダーを変更</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>推奨設定でホームフォルダーを同期します。</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>フォルダーを読み込んでいます...</translation>
     </message>
     <message>
@@ -1832,8 +1832,8 @@
         <translation>Lumivo Drive をインストールする準備ができました</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
-        <translation>Lumivo Drive をインストールする場合は、いつでもセットアッププログラムをもう一度実行できます。</translation>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
+        <translation>Lumivo Drive をインストールするときは、いつでもセットアッププログラムをもう一度実行してください。</translation>
     </message>
     <message>
         <source>Your home folder on the server now syncs with this computer.</source>
@@ -1876,8 +1876,8 @@
         <translation>ダウンロードしています...</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>新しい言語は Lumivo Drive の次回起動時から使用されます。</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>新しい言語は、次に Lumivo Drive を起動したときから適用されます。</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,7 +1892,7 @@
         <translation>ほとんどのユーザーにはクイックセットアップが適しています。設定はすべて後で変更できます。</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>サーバーのディスクに空き容量がありません。</translation>
     </message>
     <message>

@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Files with these names will not be synced.</source>
-        <translation>이러한 이름의 파일은 동기화되지 않습니다.</translation>
+        <translation>이 이름의 파일은 동기화되지 않습니다.</translation>
     </message>
     <message>
         <source>Could not connect to your server. Check your network connection and try again.</source>
@@ -108,7 +108,7 @@
         <translation>연결을 테스트하는 중...</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Lumivo Drive 설치</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>오늘</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>이 컴퓨터에 Lumivo Drive를 설치할 준비가 되었습니다.</translation>
     </message>
     <message>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Could not enable syncing for this shared folder. Try again later.</source>
-        <translation>이 공유 폴더의 동기화를 사용하도록 설정할 수 없습니다. 나중에 다시 시도하십시오.</translation>
+        <translation>이 공유 폴더의 동기화를 켤 수 없습니다. 나중에 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>To</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>This computer is already linked to &quot;%1&quot;. Edit the existing connection instead.</source>
-        <translation>이 컴퓨터는 이미 “%1” 서버에 연결되어 있습니다. 대신 기존 연결을 편집하십시오.</translation>
+        <translation>이 컴퓨터는 이미 “%1” 서버와 연동되어 있습니다. 기존 연결을 편집하십시오.</translation>
     </message>
     <message>
         <source>Update available</source>
@@ -172,19 +172,19 @@
         <translation>동기화 폴더 열기</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive가 설치되었습니다</translation>
     </message>
     <message>
         <source>Unlink</source>
-        <translation>연결 해제</translation>
+        <translation>연동 해제</translation>
     </message>
     <message>
         <source>This folder overlaps with the folder of another sync task. Select another folder.</source>
         <translation>이 폴더는 다른 동기화 작업의 폴더와 겹칩니다. 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>서버의 폴더 목록을 가져올 수 없습니다. 네트워크 연결을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>확인 필요</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>서버의 인증서가 변경되었습니다. 계속하기 전에 확인하십시오.</translation>
     </message>
     <message>
@@ -212,8 +212,8 @@
         <translation>업데이트하지 못했습니다. 나중에 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
-        <translation>서버의 인증서를 확인할 수 없습니다.</translation>
+        <source>Your server&apos;s certificate could not be verified.</source>
+        <translation>서버의 인증서를 검증할 수 없습니다.</translation>
     </message>
     <message>
         <source>Please wait. This may take several minutes.</source>
@@ -232,11 +232,11 @@
         <translation>선택한 폴더 다시 동기화</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>이 컴퓨터의 디스크가 가득 찼습니다. 동기화를 계속하려면 여유 공간을 확보하십시오.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>흑백 트레이 아이콘 사용</translation>
     </message>
     <message>
@@ -244,8 +244,8 @@
         <translation>일부 항목이 올바르게 입력되지 않았습니다. 수정한 후 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
-        <translation>설치가 중단되었습니다. 컴퓨터는 변경되지 않았습니다.</translation>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
+        <translation>설치가 중단되었습니다. 컴퓨터에 변경된 내용은 없습니다.</translation>
     </message>
     <message>
         <source>Folder not found</source>
@@ -264,7 +264,7 @@
         <translation>삭제</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>서버의 폴더 및 그 폴더와 동기화할 로컬 폴더를 선택하십시오.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>파일 유형</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>구성 방법 선택</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>언어</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>“%1” 동기화가 중지되었습니다. 자세한 내용을 보려면 Lumivo Drive를 여십시오.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>동기화 방향이 이 폴더의 권한과 맞지 않습니다. 다른 방향을 선택하십시오.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>동기화 방향이 이 폴더에 대한 권한과 맞지 않습니다. 다른 방향을 선택하십시오.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>2월</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server의 버전이 너무 오래되었습니다. 서버에서 업데이트하십시오.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>이 버전의 Lumivo Drive Server는 너무 오래되었습니다. 서버에서 업데이트하십시오.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -413,7 +413,7 @@
     </message>
     <message>
         <source>Link again</source>
-        <translation>다시 연결</translation>
+        <translation>다시 연동</translation>
     </message>
     <message>
         <source>History</source>
@@ -440,15 +440,15 @@
         <translation>네트워크 설정</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>선택한 내용을 적용하고 있습니다.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>여기서 선택을 해제한 폴더는 이 컴퓨터에서 제거됩니다. 서버에는 그대로 남아 있습니다.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>서버의 디스크가 가득 찼습니다. 동기화를 계속하려면 여유 공간을 확보하십시오.</translation>
     </message>
     <message>
@@ -468,12 +468,12 @@
         <translation>저장 및 링크 복사</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
-        <translation>서버 주소와 계정을 입력하십시오.</translation>
+        <source>Enter your server&apos;s address and your account details.</source>
+        <translation>서버 주소와 계정 정보를 입력하십시오.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
-        <translation>이제 시작하겠습니다</translation>
+        <source>Let&apos;s get started</source>
+        <translation>시작하기</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
@@ -484,12 +484,12 @@
         <translation>이전 %1개 페이지</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>나중에 Lumivo Drive를 설치하려면 설치 프로그램을 다시 실행하십시오.</translation>
     </message>
     <message>
         <source>Right-click a file in a synced folder to share it or to see its earlier versions.</source>
-        <translation>동기화된 폴더의 파일을 마우스 오른쪽 버튼으로 클릭하면 파일을 공유하거나 이전 버전을 볼 수 있습니다.</translation>
+        <translation>동기화 폴더의 파일을 마우스 오른쪽 버튼으로 클릭하면 파일을 공유하거나 이전 버전을 볼 수 있습니다.</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -524,8 +524,8 @@
         <translation>ZephLink를 통해 연결</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
-        <translation>시작하려면 “설치”를 클릭하십시오. 선택 사항을 검토하거나 변경하려면 “뒤로”를 클릭하십시오. 설치를 종료하려면 “취소”를 클릭하십시오.</translation>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
+        <translation>시작하려면 “설치”를 클릭하십시오. 선택 사항을 검토하거나 변경하려면 “뒤로”를 클릭하십시오. 설치 프로그램을 종료하려면 “취소”를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Something went wrong. Try again later.</source>
@@ -564,7 +564,7 @@
         <translation>업로드됨</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>접근 권한이 취소되어 동기화된 파일이 이 컴퓨터에서 제거되었습니다. 관리자에게 문의하십시오.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>업로드하는 중...</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>설정을 적용하는 중...</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>종료</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
-        <translation>시작하려면 “복구”를 클릭하십시오. 선택 사항을 검토하려면 “뒤로”를 클릭하십시오. 설치를 종료하려면 “취소”를 클릭하십시오.</translation>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
+        <translation>시작하려면 “복구”를 클릭하십시오. 선택 사항을 검토하려면 “뒤로”를 클릭하십시오. 설치 프로그램을 종료하려면 “취소”를 클릭하십시오.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>이 폴더에 쓸 수 없습니다. 다른 폴더를 선택하거나 폴더의 권한을 변경하십시오.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>이 폴더에 쓸 수 없습니다. 폴더의 권한을 변경하거나 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -665,7 +665,7 @@
     </message>
     <message>
         <source>This computer is now linked to &quot;%1&quot;. Syncing starts right away.</source>
-        <translation>이제 이 컴퓨터가 “%1” 서버에 연결되었습니다. 동기화가 바로 시작됩니다.</translation>
+        <translation>이제 이 컴퓨터가 “%1” 서버와 연동되었습니다. 동기화가 바로 시작됩니다.</translation>
     </message>
     <message>
         <source>Everything in sync</source>
@@ -684,8 +684,8 @@
         <translation>사용자 지정 기간</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>상태 확인</translation>
+        <source>Check the sync status</source>
+        <translation>동기화 상태 확인</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>파일</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>설치 프로그램이 업데이트해야 하는 파일을 다음 응용 프로그램에서 사용하고 있습니다:</translation>
     </message>
     <message>
@@ -768,8 +768,8 @@
         <translation>서버가 요청을 수락하지 않았습니다. 입력한 내용을 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server의 버전이 이 컴퓨터에서 사용하기에 너무 오래되었습니다. 서버에서 버전 %1 이상으로 업데이트하십시오.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>이 버전의 Lumivo Drive Server는 이 컴퓨터의 Lumivo Drive에서 사용하기에 너무 오래되었습니다. 서버에서 버전 %1 이상으로 업데이트하십시오.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -789,14 +789,14 @@
     </message>
     <message>
         <source>Do you want to unlink this computer from &quot;%1&quot;?\nThe files that are already on this computer will be kept.</source>
-        <translation>이 컴퓨터와 “%1” 서버의 연결을 해제하시겠습니까?\n이미 이 컴퓨터에 있는 파일은 유지됩니다.</translation>
+        <translation>이 컴퓨터와 “%1” 서버의 연동을 해제하시겠습니까?\n이미 이 컴퓨터에 있는 파일은 유지됩니다.</translation>
     </message>
     <message>
         <source>This folder is used by a backup task. Select another folder.</source>
         <translation>이 폴더는 백업 작업에서 사용 중입니다. 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>이 컴퓨터의 디스크가 가득 찼습니다.</translation>
     </message>
     <message>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>This ZephLink ID does not exist. Check it and try again.</source>
-        <translation>이 ZephLink ID가 없습니다. 확인하고 다시 시도하십시오.</translation>
+        <translation>이 ZephLink ID는 존재하지 않습니다. 확인하고 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>Do not sync these files</source>
@@ -852,7 +852,7 @@
         <translation>잠긴 파일</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
         <translation>응용 프로그램을 닫지 않음(나중에 컴퓨터를 다시 시작해야 함)</translation>
     </message>
     <message>
@@ -880,8 +880,8 @@
         <translation>재개</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
-        <translation>설치를 종료하려면 “마침”을 클릭하십시오.</translation>
+        <source>Click Finish to exit Setup.</source>
+        <translation>설치 프로그램을 종료하려면 “마침”을 클릭하십시오.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -904,7 +904,7 @@
         <translation>사용 중인 파일</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>설치가 완료되지 않고 종료되었습니다</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>두 폴더의 파일이 병합됩니다.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>서버의 이 폴더는 이미 이 컴퓨터와 동기화되고 있습니다.\n두 번째 동기화 작업을 추가하면 디스크 공간을 두 배로 차지합니다.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>설치가 중단되었습니다</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>오류</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>서버가 이 컴퓨터의 주소를 차단하고 있습니다. 관리자에게 허용해 달라고 요청하십시오.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>인쇄</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Lumivo Drive 설치 프로그램에 오신 것을 환영합니다</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>이 항목의 최대 길이는 %1자입니다.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>%1자 이내로 입력하십시오.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1004,7 +1004,7 @@
         <translation>동기화 폴더에 넣은 모든 항목이 서버와 다른 컴퓨터에도 나타납니다.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>설치 프로그램에서 Lumivo Drive를 변경, 복구 또는 제거할 수 있습니다. 계속하려면 “다음”을 클릭하십시오.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>서버의 폴더와 이 컴퓨터의 폴더를 선택하십시오.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>프록시 서버의 주소와 포트를 입력하십시오.</translation>
     </message>
     <message>
@@ -1060,7 +1060,7 @@
         <translation>Lumivo Drive 복구 준비 완료</translation>
     </message>
     <message>
-        <source>Filtered files</source>
+        <source>Skipped files</source>
         <translation>제외된 파일</translation>
     </message>
     <message>
@@ -1085,18 +1085,18 @@
     </message>
     <message>
         <source>Folder already synced</source>
-        <translation>이미 동기화된 폴더</translation>
+        <translation>이미 동기화 중인 폴더</translation>
     </message>
     <message>
         <source>Syncing...</source>
         <translation>동기화하는 중...</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
-        <translation>이 컴퓨터에서 Lumivo Drive를 제거하려면 “제거”를 클릭하십시오. 선택 사항을 검토하려면 “뒤로”를 클릭하십시오. 설치를 종료하려면 “취소”를 클릭하십시오.</translation>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
+        <translation>이 컴퓨터에서 Lumivo Drive를 제거하려면 “제거”를 클릭하십시오. 선택 사항을 검토하려면 “뒤로”를 클릭하십시오. 설치 프로그램을 종료하려면 “취소”를 클릭하십시오.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Lumivo Drive 설치 프로그램에 다시 오신 것을 환영합니다</translation>
     </message>
     <message>
@@ -1116,12 +1116,12 @@
         <translation>여유 공간 없음</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>공유 폴더를 불러오는 중...</translation>
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation>연결을 해제하는 중...</translation>
+        <translation>연동을 해제하는 중...</translation>
     </message>
     <message>
         <source>Files being synced</source>
@@ -1140,7 +1140,7 @@
         <translation>서버의 폴더가 마운트되어 있지 않습니다. 서버에서 마운트한 후 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
+        <source>Mark skipped files with an icon</source>
         <translation>제외된 파일에 아이콘 표시</translation>
     </message>
     <message>
@@ -1152,7 +1152,7 @@
         <translation>다음</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>내용이 다른 파일은 두 버전이 모두 유지됩니다.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>이 파일의 버전 목록을 볼 수 없습니다. 서버에서 권한을 확인하십시오.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>서버의 응답을 해석할 수 없습니다. Lumivo Drive를 업데이트하고 다시 시도하십시오.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>포트</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>이 주소에서 다른 서버를 찾았습니다</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>7월</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>업데이트해야 하는 일부 파일이 사용 중입니다.</translation>
     </message>
     <message>
@@ -1197,7 +1197,7 @@
     </message>
     <message>
         <source>The sync database is damaged. Unlink this computer and link it again.</source>
-        <translation>동기화 데이터베이스가 손상되었습니다. 이 컴퓨터의 연결을 해제한 후 다시 연결하십시오.</translation>
+        <translation>동기화 데이터베이스가 손상되었습니다. 이 컴퓨터의 연동을 해제한 후 다시 연동하십시오.</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -1228,8 +1228,8 @@
         <translation>접근 제한</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
-        <translation>이 컴퓨터에 Lumivo Drive를 설치합니다. 계속하려면 “다음”을 클릭하고 설치를 종료하려면 “취소”를 클릭하십시오.</translation>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
+        <translation>이 컴퓨터에 Lumivo Drive를 설치합니다. 계속하려면 “다음”을 클릭하고 설치 프로그램을 종료하려면 “취소”를 클릭하십시오.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1240,8 +1240,8 @@
         <translation>“%1” 폴더를 만들 수 없습니다. 경로와 권한을 확인하십시오.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
-        <translation>오류로 인해 설치가 종료되었습니다.\n컴퓨터는 변경되지 않았습니다.</translation>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
+        <translation>오류로 인해 설치가 종료되었습니다.\n컴퓨터에 변경된 내용은 없습니다.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete some files to continue syncing.</source>
@@ -1252,8 +1252,8 @@
         <translation>폴더 필터</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
-        <translation>서버의 인증서를 확인할 수 없습니다. 연결 설정에서 확인하십시오.</translation>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
+        <translation>서버의 인증서를 검증할 수 없습니다. 연결 설정에서 확인하십시오.</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -1268,7 +1268,7 @@
         <translation>파일이 두 곳에서 동시에 변경되었습니다. 두 버전이 모두 유지되었습니다. 필요 없는 버전을 삭제하십시오.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>서버의 인증서가 변경되었습니다. 연결 설정에서 확인하십시오.</translation>
     </message>
     <message>
@@ -1296,8 +1296,8 @@
         <translation>이 컴퓨터에서 Lumivo Drive를 제거하도록 선택했습니다.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>네트워크 드라이브의 변경 사항은 감시할 수 없습니다. 로컬 디스크의 폴더를 선택하십시오.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>네트워크 드라이브의 변경 사항은 감지할 수 없습니다. 로컬 디스크의 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1325,7 +1325,7 @@
     </message>
     <message>
         <source>The connection to your server was lost. It will be restored automatically.</source>
-        <translation>서버와의 연결이 끊어졌습니다. 자동으로 복원됩니다.</translation>
+        <translation>서버와의 연결이 끊어졌습니다. 자동으로 다시 연결됩니다.</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -1428,8 +1428,8 @@
         <translation>컨텍스트 메뉴에 Lumivo Drive 표시</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive의 버전이 너무 오래되었습니다. 이 컴퓨터에서 업데이트하십시오.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>이 버전의 Lumivo Drive는 너무 오래되었습니다. 이 컴퓨터에서 업데이트하십시오.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1461,7 +1461,7 @@
     </message>
     <message>
         <source>Link another server</source>
-        <translation>다른 서버 연결</translation>
+        <translation>다른 서버와 연동</translation>
     </message>
     <message>
         <source>I do not accept the terms of the license agreement</source>
@@ -1517,7 +1517,7 @@
     </message>
     <message>
         <source>Too many failed attempts. Wait a few minutes and try again.</source>
-        <translation>실패한 시도가 너무 많습니다. 몇 분 후에 다시 시도하십시오.</translation>
+        <translation>실패 횟수가 너무 많습니다. 몇 분 후에 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>September</source>
@@ -1596,7 +1596,7 @@
         <translation>값</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>관리자로 로그인하지 않았습니다. Lumivo Drive가 현재 사용자에게만 설치됩니다.\n계속하시겠습니까?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>파일 서비스가 꺼져 있어 링크를 만들 수 없습니다. 관리자에게 켜 달라고 요청하십시오.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>응용 프로그램을 닫고 나중에 다시 시작 시도</translation>
     </message>
     <message>
@@ -1641,7 +1641,7 @@
     </message>
     <message>
         <source>Unlink this connection</source>
-        <translation>이 연결 해제</translation>
+        <translation>이 연결의 연동 해제</translation>
     </message>
     <message>
         <source>The connection is unstable</source>
@@ -1656,7 +1656,7 @@
         <translation>이 폴더 동기화 안 함</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>서버의 인증서가 변경되었습니다.\n변경된 이유를 알고 있는 경우에만 계속하십시오.</translation>
     </message>
     <message>
@@ -1673,7 +1673,7 @@
     </message>
     <message>
         <source>Your account is not allowed to sync this folder. Ask your administrator for permission.</source>
-        <translation>이 계정은 이 폴더를 동기화할 수 없습니다. 관리자에게 권한을 요청하십시오.</translation>
+        <translation>이 계정으로는 이 폴더를 동기화할 수 없습니다. 관리자에게 권한을 요청하십시오.</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -1684,7 +1684,7 @@
         <translation>방금</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Lumivo Drive를 복구할 준비가 되었습니다.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>이 폴더는 읽기만 가능합니다. 이 컴퓨터에서 변경한 내용은 업로드되지 않습니다.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>이 폴더에 대한 접근 권한이 없습니다. 관리자에게 권한을 요청하십시오.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>파일을 동기화하고 있습니다. 그동안 작업을 계속할 수 있습니다.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
-        <translation>서버의 인증서를 확인할 수 없습니다.\n이 네트워크를 신뢰하는 경우에만 계속하십시오.</translation>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
+        <translation>서버의 인증서를 검증할 수 없습니다.\n이 네트워크를 신뢰하는 경우에만 계속하십시오.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>동기화 대기 중인 파일: %1</translation>
     </message>
     <message>
@@ -1732,16 +1732,16 @@
         <translation>동기화 폴더</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>서버의 인증서를 확인할 수 없습니다. 관리자에게 유효한 인증서를 요청하십시오.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>서버의 인증서를 검증할 수 없습니다. 관리자에게 유효한 인증서를 설치해 달라고 요청하십시오.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
-        <translation>서버가 교체되었습니다. 이 컴퓨터를 다시 연결하십시오.</translation>
+        <translation>서버가 교체되었습니다. 이 컴퓨터를 다시 연동하십시오.</translation>
     </message>
     <message>
         <source>Follow these steps to link this computer to your server.</source>
-        <translation>다음 단계에 따라 이 컴퓨터를 서버에 연결하십시오.</translation>
+        <translation>다음 단계에 따라 이 컴퓨터를 서버와 연동하십시오.</translation>
     </message>
     <message>
         <source>Proxy server</source>
@@ -1776,7 +1776,7 @@
         <translation>로컬 파일의 아이콘</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>사용할 수 있는 동작 없음</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>사용 안 함</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
         <translation>서버가 아직 “%1” 폴더를 인덱싱하고 있습니다. 인덱싱이 끝나면 동기화할 수 있습니다.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>파일이 두 곳에서 변경된 경우</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>폴더 변경</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>권장 설정으로 홈 폴더를 동기화합니다.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>폴더를 불러오는 중...</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Lumivo Drive 설치 준비 완료</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Lumivo Drive를 설치하려면 언제든지 설치 프로그램을 다시 실행하십시오.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>다운로드하는 중...</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
         <translation>새 언어는 다음에 Lumivo Drive를 시작할 때부터 적용됩니다.</translation>
     </message>
     <message>
@@ -1892,7 +1892,7 @@
         <translation>대부분의 사용자에게는 빠른 구성이 적합합니다. 나중에 모두 변경할 수 있습니다.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>서버의 디스크가 가득 찼습니다.</translation>
     </message>
     <message>

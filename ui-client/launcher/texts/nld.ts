@@ -108,7 +108,7 @@
         <translation>Verbinding testen…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Installatie van Lumivo Drive</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Vandaag</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Het installatieprogramma is gereed om Lumivo Drive op deze computer te installeren.</translation>
     </message>
     <message>
@@ -172,7 +172,7 @@
         <translation>Synchronisatiemap openen</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive is geïnstalleerd</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Deze map overlapt met de map van een andere synchronisatietaak. Selecteer een andere map.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>De mappen op je server kunnen niet worden weergegeven. Controleer je netwerkverbinding en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Aandacht vereist</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Het certificaat van je server is gewijzigd. Controleer het voordat je doorgaat.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>De update is mislukt. Probeer het later opnieuw.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Het certificaat van je server kan niet worden geverifieerd.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Deze mappen weer synchroniseren</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>De schijf van deze computer is vol. Maak ruimte vrij om door te gaan met synchroniseren.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Zwart-witpictogram in het systeemvak gebruiken</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Sommige velden zijn niet juist ingevuld. Corrigeer ze en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>De installatie is onderbroken. Er zijn geen wijzigingen op je computer aangebracht.</translation>
     </message>
     <message>
@@ -264,8 +264,8 @@
         <translation>Verwijderen</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
-        <translation>Kies een map op je server en de lokale map waarmee deze wordt gesynchroniseerd.</translation>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
+        <translation>Kies een map op je server en de lokale map waarmee je deze wilt synchroniseren.</translation>
     </message>
     <message>
         <source>Status</source>
@@ -296,7 +296,7 @@
         <translation>Bestandstype</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Kies hoe je Lumivo Drive wilt configureren</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Taal</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>De synchronisatie van “%1” is gestopt. Open Lumivo Drive voor meer informatie.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink-ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>De synchronisatierichting komt niet overeen met de machtigingen van deze map. Kies een andere richting.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>De synchronisatierichting komt niet overeen met je machtigingen voor deze map. Kies een andere richting.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>februari</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server is te oud. Werk de toepassing bij op je server.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Deze versie van Lumivo Drive Server is te oud. Werk Lumivo Drive Server op je server bij.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>Netwerkinstellingen</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Het installatieprogramma past je keuzes toe.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Mappen die je hier uitvinkt, worden van deze computer verwijderd. Ze blijven op je server staan.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>De schijf van je server is vol. Maak daar ruimte vrij om door te gaan met synchroniseren.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Opslaan en link kopiëren</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
-        <translation>Voer het adres van je server en je account in.</translation>
+        <source>Enter your server&apos;s address and your account details.</source>
+        <translation>Voer het adres van je server en je accountgegevens in.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Aan de slag</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>Vorige %1 pagina’s</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Als je Lumivo Drive later wilt installeren, start je het installatieprogramma opnieuw.</translation>
     </message>
     <message>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>Deze versie van Lumivo Drive is te oud voor je server. Werk bij naar versie %1 of hoger.</translation>
+        <translation>Deze versie van Lumivo Drive is te oud voor je server. Werk Lumivo Drive bij naar versie %1 of hoger.</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
@@ -524,7 +524,7 @@
         <translation>Verbinding maken via ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Klik op Installeren om te beginnen. Klik op Vorige om je keuzes te bekijken of te wijzigen. Klik op Annuleren om het installatieprogramma af te sluiten.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Geüpload</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Je toegang is ingetrokken en de gesynchroniseerde bestanden zijn van deze computer verwijderd. Neem contact op met je beheerder.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Uploaden…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Instellingen toepassen…</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Afsluiten</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klik op Herstellen om te beginnen. Klik op Vorige om je keuze te bekijken. Klik op Annuleren om het installatieprogramma af te sluiten.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Je hebt geen schrijfrechten voor deze map. Selecteer een andere map of wijzig de machtigingen ervan.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Je kunt niet naar deze map schrijven. Wijzig de machtigingen van de map of selecteer een andere map.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Aangepaste duur</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>De status in de gaten houden</translation>
+        <source>Check the sync status</source>
+        <translation>De synchronisatiestatus controleren</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>Bestand</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>De volgende toepassingen gebruiken bestanden die het installatieprogramma moet bijwerken:</translation>
     </message>
     <message>
@@ -768,8 +768,8 @@
         <translation>De server heeft de aanvraag niet geaccepteerd. Controleer je invoer en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server is te oud voor deze computer. Werk de toepassing op je server bij naar versie %1 of hoger.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Deze versie van Lumivo Drive Server is te oud voor Lumivo Drive op deze computer. Werk Lumivo Drive Server op je server bij naar versie %1 of hoger.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>Deze map wordt gebruikt door een back-uptaak. Selecteer een andere map.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>De schijf van deze computer is vol.</translation>
     </message>
     <message>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>Your account requires two-step verification. Set it up on your server, then sign in again.</source>
-        <translation>Voor je account is verificatie in twee stappen vereist. Stel dit in op je server en meld je daarna opnieuw aan.</translation>
+        <translation>Voor je account is verificatie in twee stappen vereist. Stel deze in op je server en meld je daarna opnieuw aan.</translation>
     </message>
     <message>
         <source>The file service is turned off on your server. Ask your administrator to turn it on.</source>
@@ -852,8 +852,8 @@
         <translation>Vergrendeld bestand</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>De toepassingen niet sluiten (de computer moet daarna opnieuw worden opgestart)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>De toepassingen niet sluiten (je moet de computer later opnieuw opstarten)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Hervatten</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Klik op Voltooien om het installatieprogramma af te sluiten.</translation>
     </message>
     <message>
@@ -897,14 +897,14 @@
     </message>
     <message>
         <source>has been shared with you.</source>
-        <translation>is met jou gedeeld.</translation>
+        <translation>is met je gedeeld.</translation>
     </message>
     <message>
         <source>Files in use</source>
         <translation>Bestanden in gebruik</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>De installatie is voortijdig beëindigd</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>De bestanden in beide mappen worden samengevoegd.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
-        <translation>Deze map op je server wordt al met deze computer gesynchroniseerd.\nEen tweede synchronisatietaak voor deze map neemt twee keer zoveel schijfruimte in beslag.</translation>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
+        <translation>Deze map op je server wordt al met deze computer gesynchroniseerd.\nEen tweede synchronisatietaak voor deze map zou twee keer zoveel schijfruimte in beslag nemen.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>De installatie is onderbroken</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Fout</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Je server blokkeert het adres van deze computer. Vraag je beheerder om het toe te staan.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Afdrukken</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Welkom bij de installatie van Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>De maximale lengte van dit veld is %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Voer maximaal %1 tekens in.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Trefwoord</translation>
+        <translation>Zoekterm</translation>
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
@@ -1004,7 +1004,7 @@
         <translation>Alles wat je in je synchronisatiemap zet, verschijnt op je server en op je andere computers.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Het installatieprogramma kan Lumivo Drive wijzigen, herstellen of verwijderen. Klik op Volgende om door te gaan.</translation>
     </message>
     <message>
@@ -1012,12 +1012,12 @@
         <translation>Selecteer een map op je server en een map op deze computer.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Voer het adres en de poort van de proxyserver in.</translation>
     </message>
     <message>
         <source>Watching for changes...</source>
-        <translation>Wijzigingen bewaken…</translation>
+        <translation>Controleren op wijzigingen…</translation>
     </message>
     <message>
         <source>Change</source>
@@ -1060,8 +1060,8 @@
         <translation>Gereed om Lumivo Drive te herstellen</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Gefilterde bestanden</translation>
+        <source>Skipped files</source>
+        <translation>Overgeslagen bestanden</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>Synchroniseren…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klik op Verwijderen om Lumivo Drive van deze computer te verwijderen. Klik op Vorige om je keuze te bekijken. Klik op Annuleren om het installatieprogramma af te sluiten.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Welkom terug bij de installatie van Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Geen ruimte meer</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Gedeelde mappen laden…</translation>
     </message>
     <message>
@@ -1140,8 +1140,8 @@
         <translation>De map op je server is niet aangekoppeld. Koppel de map daar aan en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Gefilterde bestanden met een pictogram markeren</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Overgeslagen bestanden met een pictogram markeren</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>Volgende</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>Van bestanden met verschillende inhoud worden beide versies bewaard.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>De versies van dit bestand kunnen niet worden weergegeven. Controleer je machtigingen op de server.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Het antwoord van de server kan niet worden verwerkt. Werk Lumivo Drive bij en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Poort</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Er is een andere server gevonden op dit adres</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>juli</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Sommige bestanden die moeten worden bijgewerkt, zijn in gebruik.</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>Toegang beperken</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>Het installatieprogramma installeert Lumivo Drive op deze computer. Klik op Volgende om door te gaan of op Annuleren om het installatieprogramma af te sluiten.</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@
         <translation>Kan de map “%1” niet maken. Controleer het pad en je machtigingen.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>De installatie is beëindigd door een fout.\nEr zijn geen wijzigingen op je computer aangebracht.</translation>
     </message>
     <message>
@@ -1249,10 +1249,10 @@
     </message>
     <message>
         <source>Folder filter</source>
-        <translation>Mapfilter</translation>
+        <translation>Mappenfilter</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Het certificaat van je server kan niet worden geverifieerd. Controleer het in de verbindingsinstellingen.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Het bestand is tegelijkertijd op twee plaatsen gewijzigd. Beide versies zijn bewaard. Verwijder de versie die je niet nodig hebt.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Het certificaat van je server is gewijzigd. Controleer het in de verbindingsinstellingen.</translation>
     </message>
     <message>
@@ -1296,8 +1296,8 @@
         <translation>Je hebt ervoor gekozen om Lumivo Drive van deze computer te verwijderen.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>Wijzigingen op een netwerkschijf kunnen niet worden bewaakt. Selecteer een map op een lokale schijf.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>Wijzigingen op een netwerkschijf kunnen niet worden gedetecteerd. Selecteer een map op een lokale schijf.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1428,8 +1428,8 @@
         <translation>Lumivo Drive in het contextmenu weergeven</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive is te oud. Werk de toepassing bij op deze computer.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Deze versie van Lumivo Drive is te oud. Werk Lumivo Drive op deze computer bij.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1449,7 +1449,7 @@
     </message>
     <message>
         <source>Show sync status icons on files</source>
-        <translation>Synchronisatiepictogrammen op bestanden weergeven</translation>
+        <translation>Pictogrammen voor de synchronisatiestatus op bestanden weergeven</translation>
     </message>
     <message>
         <source>This field is required.</source>
@@ -1596,7 +1596,7 @@
         <translation>Waarde</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Je bent niet aangemeld als beheerder. Lumivo Drive wordt alleen voor jou geïnstalleerd.\nWil je doorgaan?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Er kunnen geen links worden gemaakt omdat de bestandsservice is uitgeschakeld. Vraag je beheerder om deze in te schakelen.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>De toepassingen sluiten en daarna proberen ze weer te starten</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Deze map niet synchroniseren</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Het certificaat van je server is gewijzigd.\nGa alleen door als je weet waarom.</translation>
     </message>
     <message>
@@ -1673,7 +1673,7 @@
     </message>
     <message>
         <source>Your account is not allowed to sync this folder. Ask your administrator for permission.</source>
-        <translation>Je account mag deze map niet synchroniseren. Vraag je beheerder om toestemming.</translation>
+        <translation>Met je account mag je deze map niet synchroniseren. Vraag je beheerder om toestemming.</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -1684,7 +1684,7 @@
         <translation>Zojuist</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Het installatieprogramma is gereed om Lumivo Drive te herstellen.</translation>
     </message>
     <message>
@@ -1692,23 +1692,23 @@
         <translation>Je kunt deze map alleen lezen. Wijzigingen op deze computer worden niet geüpload.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Je hebt geen toegang tot deze map. Vraag je beheerder om toestemming.</translation>
     </message>
     <message>
         <source>No entries found</source>
-        <translation>Geen vermeldingen gevonden</translation>
+        <translation>Geen items gevonden</translation>
     </message>
     <message>
         <source>Your files are being synced. You can keep working in the meantime.</source>
         <translation>Je bestanden worden gesynchroniseerd. Je kunt intussen doorwerken.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Het certificaat van je server kan niet worden geverifieerd.\nGa alleen door als je dit netwerk vertrouwt.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Nog te synchroniseren bestanden: %1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>Je synchronisatiemap</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Het certificaat van je server kan niet worden geverifieerd. Vraag je beheerder om een geldig certificaat.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Het certificaat van je server kan niet worden geverifieerd. Vraag je beheerder om een geldig certificaat te installeren.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,8 +1776,8 @@
         <translation>Pictogrammen op lokale bestanden</translation>
     </message>
     <message>
-        <source>No action available</source>
-        <translation>Geen actie beschikbaar</translation>
+        <source>No actions available</source>
+        <translation>Geen acties beschikbaar</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1796,11 +1796,11 @@
         <translation>Uitgeschakeld</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>“%1” wordt nog geïndexeerd op je server. Daarna kan de synchronisatie beginnen.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>“%1” wordt nog geïndexeerd op je server. Je kunt de map synchroniseren zodra het indexeren is voltooid.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Als een bestand op twee plaatsen is gewijzigd</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Map wijzigen</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synchroniseer je thuismap met de aanbevolen instellingen.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Mappen laden…</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Gereed om Lumivo Drive te installeren</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Start het installatieprogramma opnieuw wanneer je Lumivo Drive wilt installeren.</translation>
     </message>
     <message>
@@ -1876,8 +1876,8 @@
         <translation>Downloaden…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>De nieuwe taal wordt gebruikt wanneer Lumivo Drive de volgende keer wordt gestart.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>De nieuwe taal wordt van kracht zodra je Lumivo Drive opnieuw start.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,7 +1892,7 @@
         <translation>De snelle configuratie is geschikt voor de meeste gebruikers. Je kunt alles later wijzigen.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>De schijf van je server is vol.</translation>
     </message>
     <message>

@@ -108,7 +108,7 @@
         <translation>Tester tilkoblingen…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Installasjon av Lumivo Drive</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>I dag</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Installasjonsprogrammet er klart til å installere Lumivo Drive på denne datamaskinen.</translation>
     </message>
     <message>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>%1 d ago</source>
-        <translation>for %1 d siden</translation>
+        <translation>For %1 d siden</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
@@ -172,7 +172,7 @@
         <translation>Åpne synkroniseringsmappe</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive er installert</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Denne mappen overlapper med mappen til en annen synkroniseringsoppgave. Velg en annen mappe.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Mappene på serveren din kunne ikke vises. Kontroller nettverkstilkoblingen, og prøv på nytt.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Krever oppmerksomhet</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Sertifikatet til serveren din er endret. Kontroller det før du fortsetter.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>Oppdateringen mislyktes. Prøv på nytt senere.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Sertifikatet til serveren din kunne ikke bekreftes.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Synkroniser disse mappene igjen</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Disken på denne datamaskinen er full. Frigjør plass for å fortsette synkroniseringen.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Bruk et svart-hvitt ikon i systemstatusfeltet</translation>
     </message>
     <message>
@@ -244,8 +244,8 @@
         <translation>Noen felt er ikke riktig utfylt. Rett dem opp, og prøv på nytt.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
-        <translation>Installasjonen ble avbrutt. Datamaskinen din er ikke endret.</translation>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
+        <translation>Installasjonen ble avbrutt. Det er ikke gjort noen endringer på datamaskinen din.</translation>
     </message>
     <message>
         <source>Folder not found</source>
@@ -264,7 +264,7 @@
         <translation>Slett</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>Velg en mappe på serveren din og den lokale mappen den skal synkroniseres med.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>Filtype</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Velg konfigurasjonsmetode</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Språk</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>Synkroniseringen av «%1» har stoppet. Åpne Lumivo Drive for å se detaljer.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink-ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>Synkroniseringsretningen samsvarer ikke med tillatelsene for denne mappen. Velg en annen retning.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>Synkroniseringsretningen samsvarer ikke med tillatelsene dine for denne mappen. Velg en annen retning.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>februar</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server er for gammel. Oppdater den på serveren din.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Denne versjonen av Lumivo Drive Server er for gammel. Oppdater den på serveren din.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>Nettverksinnstillinger</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Installasjonsprogrammet gjennomfører valgene dine.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Mapper du velger bort her, blir fjernet fra denne datamaskinen. De blir værende på serveren din.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Disken på serveren din er full. Frigjør plass på den for å fortsette synkroniseringen.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Lagre og kopier lenke</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Skriv inn serveradressen og kontoopplysningene dine.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>La oss komme i gang</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>Forrige %1 sider</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Kjør installasjonsprogrammet på nytt hvis du vil installere Lumivo Drive senere.</translation>
     </message>
     <message>
@@ -524,7 +524,7 @@
         <translation>Koble til via ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Klikk på Installer for å begynne. Klikk på Tilbake for å se gjennom eller endre valgene dine. Klikk på Avbryt for å avslutte installasjonsprogrammet.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Lastet opp</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Tilgangen din er trukket tilbake, og de synkroniserte filene er fjernet fra denne datamaskinen. Kontakt administratoren.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Laster opp…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Tar i bruk innstillingene…</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Avslutt</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klikk på Reparer for å begynne. Klikk på Tilbake for å se gjennom valget ditt. Klikk på Avbryt for å avslutte installasjonsprogrammet.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Du kan ikke skrive til denne mappen. Velg en annen mappe, eller endre tillatelsene for den.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Du kan ikke skrive til denne mappen. Endre tillatelsene for den, eller velg en annen mappe.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Egendefinert periode</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Følg med på statusen</translation>
+        <source>Check the sync status</source>
+        <translation>Følg med på synkroniseringsstatusen</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>Fil</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Følgende programmer bruker filer som installasjonsprogrammet må oppdatere:</translation>
     </message>
     <message>
@@ -768,8 +768,8 @@
         <translation>Serveren godtok ikke forespørselen. Kontroller det du har skrevet inn, og prøv på nytt.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server er for gammel for denne datamaskinen. Oppdater den på serveren din til versjon %1 eller nyere.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Denne versjonen av Lumivo Drive Server er for gammel for Lumivo Drive på denne datamaskinen. Oppdater den på serveren din til versjon %1 eller nyere.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -785,7 +785,7 @@
     </message>
     <message>
         <source>Lets you change which features are installed.</source>
-        <translation>Lar deg endre hvilke funksjoner som er installert.</translation>
+        <translation>Her kan du endre hvilke funksjoner som er installert.</translation>
     </message>
     <message>
         <source>Do you want to unlink this computer from &quot;%1&quot;?\nThe files that are already on this computer will be kept.</source>
@@ -796,7 +796,7 @@
         <translation>Denne mappen brukes av en sikkerhetskopieringsoppgave. Velg en annen mappe.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Disken på denne datamaskinen er full.</translation>
     </message>
     <message>
@@ -852,8 +852,8 @@
         <translation>Låst fil</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Ikke lukk programmene (datamaskinen må startes på nytt etterpå)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Ikke lukk programmene (du må starte datamaskinen på nytt senere)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Gjenoppta</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Klikk på Fullfør for å avslutte installasjonsprogrammet.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Filer i bruk</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>Installasjonen ble avsluttet for tidlig</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>Filene i begge mappene blir flettet.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
-        <translation>Denne mappen på serveren din synkroniseres allerede med denne datamaskinen.\nEnda en synkroniseringsoppgave for den tar dobbelt så mye diskplass.</translation>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
+        <translation>Denne mappen på serveren din synkroniseres allerede med denne datamaskinen.\nEnda en synkroniseringsoppgave for den vil ta dobbelt så mye diskplass.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>Installasjonen ble avbrutt</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Feil</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Serveren din blokkerer adressen til denne datamaskinen. Be administratoren om å tillate den.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Skriv ut</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Velkommen til installasjonen av Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>Den maksimale lengden for dette feltet er %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Skriv inn maksimalt %1 tegn.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Nøkkelord</translation>
+        <translation>Søkeord</translation>
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
@@ -1004,7 +1004,7 @@
         <translation>Alt du legger i synkroniseringsmappen, dukker opp på serveren din og på de andre datamaskinene dine.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Installasjonsprogrammet kan endre, reparere eller fjerne Lumivo Drive. Klikk på Neste for å fortsette.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Velg en mappe på serveren din og en mappe på denne datamaskinen.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Skriv inn adressen og porten til proxyserveren.</translation>
     </message>
     <message>
@@ -1060,8 +1060,8 @@
         <translation>Klar til å reparere Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Filtrerte filer</translation>
+        <source>Skipped files</source>
+        <translation>Filer som hoppes over</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>Synkroniserer…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klikk på Fjern for å fjerne Lumivo Drive fra denne datamaskinen. Klikk på Tilbake for å se gjennom valget ditt. Klikk på Avbryt for å avslutte installasjonsprogrammet.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Velkommen tilbake til installasjonen av Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,8 +1116,8 @@
         <translation>Ikke mer plass</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
-        <translation>Laster inn de delte mappene…</translation>
+        <source>Loading shared folders...</source>
+        <translation>Laster inn delte mapper…</translation>
     </message>
     <message>
         <source>Unlinking...</source>
@@ -1140,8 +1140,8 @@
         <translation>Mappen på serveren din er ikke montert. Monter den der, og prøv på nytt.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Merk filtrerte filer med et ikon</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Vis et ikon på filer som hoppes over</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,8 +1152,8 @@
         <translation>Neste</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
-        <translation>Filer med forskjellig innhold beholdes i begge versjoner.</translation>
+        <source>Both versions of files with different contents are kept.</source>
+        <translation>Begge versjonene av filer med ulikt innhold beholdes.</translation>
     </message>
     <message>
         <source>This folder is already synced. Do you want to add it again?</source>
@@ -1168,7 +1168,7 @@
         <translation>Versjonene av denne filen kan ikke vises. Kontroller tillatelsene dine på serveren.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Svaret fra serveren kunne ikke tolkes. Oppdater Lumivo Drive, og prøv på nytt.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Fant en annen server på denne adressen</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>juli</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Noen av filene som må oppdateres, er i bruk.</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>Begrens tilgang</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>Installasjonsprogrammet installerer Lumivo Drive på denne datamaskinen. Klikk på Neste for å fortsette eller på Avbryt for å avslutte installasjonsprogrammet.</translation>
     </message>
     <message>
@@ -1240,8 +1240,8 @@
         <translation>Kunne ikke opprette mappen «%1». Kontroller banen og tillatelsene dine.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
-        <translation>Installasjonen ble avsluttet på grunn av en feil.\nDatamaskinen din er ikke endret.</translation>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
+        <translation>Installasjonen ble avsluttet på grunn av en feil.\nDet er ikke gjort noen endringer på datamaskinen din.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete some files to continue syncing.</source>
@@ -1252,7 +1252,7 @@
         <translation>Mappefilter</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Sertifikatet til serveren din kunne ikke bekreftes. Kontroller det i tilkoblingsinnstillingene.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Filen ble endret to steder samtidig. Begge versjonene er beholdt. Slett den du ikke trenger.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Sertifikatet til serveren din er endret. Kontroller det i tilkoblingsinnstillingene.</translation>
     </message>
     <message>
@@ -1296,8 +1296,8 @@
         <translation>Du har valgt å fjerne Lumivo Drive fra denne datamaskinen.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>Endringer på en nettverksstasjon kan ikke overvåkes. Velg en mappe på en lokal disk.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>Endringer på en nettverksstasjon kan ikke registreres. Velg en mappe på en lokal disk.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation>for %1 t siden</translation>
+        <translation>For %1 t siden</translation>
     </message>
     <message>
         <source>Files and folders that match these rules are not synced.</source>
@@ -1428,8 +1428,8 @@
         <translation>Vis Lumivo Drive i hurtigmenyen</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive er for gammel. Oppdater programmet på denne datamaskinen.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Denne versjonen av Lumivo Drive er for gammel. Oppdater den på denne datamaskinen.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation>for %1 min siden</translation>
+        <translation>For %1 min siden</translation>
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
@@ -1596,7 +1596,7 @@
         <translation>Verdi</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Du er ikke logget inn som administrator. Lumivo Drive blir bare installert for deg.\nVil du fortsette?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Det kan ikke opprettes lenker fordi filtjenesten er slått av. Be administratoren om å slå den på.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Lukk programmene, og forsøk å starte dem på nytt etterpå</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Ikke synkroniser denne mappen</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Sertifikatet til serveren din er endret.\nFortsett bare hvis du vet hvorfor.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Akkurat nå</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Installasjonsprogrammet er klart til å reparere Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Du har bare lesetilgang til denne mappen. Endringer på denne datamaskinen blir ikke lastet opp.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Du har ikke tilgang til denne mappen. Be administratoren om tillatelse.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Filene dine blir synkronisert. Du kan jobbe videre i mellomtiden.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Sertifikatet til serveren din kunne ikke bekreftes.\nFortsett bare hvis du stoler på dette nettverket.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Filer som gjenstår å synkronisere: %1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>Synkroniseringsmappen din</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Sertifikatet til serveren din kunne ikke bekreftes. Be administratoren om et gyldig sertifikat.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Sertifikatet til serveren din kunne ikke bekreftes. Be administratoren om å installere et gyldig sertifikat.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,8 +1776,8 @@
         <translation>Ikoner på lokale filer</translation>
     </message>
     <message>
-        <source>No action available</source>
-        <translation>Ingen tilgjengelig handling</translation>
+        <source>No actions available</source>
+        <translation>Ingen tilgjengelige handlinger</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1796,11 +1796,11 @@
         <translation>Slått av</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>Serveren din indekserer fortsatt «%1». Mappen kan synkroniseres etterpå.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Serveren din indekserer fortsatt «%1». Du kan synkronisere mappen når indekseringen er fullført.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Når en fil er endret to steder</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Bytt mappe</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synkroniser hjemmemappen din med de anbefalte innstillingene.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
-        <translation>Laster inn mappene…</translation>
+        <source>Loading folders...</source>
+        <translation>Laster inn mapper…</translation>
     </message>
     <message>
         <source>Wednesday</source>
@@ -1832,7 +1832,7 @@
         <translation>Klar til å installere Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Kjør installasjonsprogrammet på nytt når du vil installere Lumivo Drive.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Laster ned…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
         <translation>Det nye språket brukes neste gang Lumivo Drive starter.</translation>
     </message>
     <message>
@@ -1892,7 +1892,7 @@
         <translation>Rask konfigurasjon passer for de fleste brukere. Du kan endre alt senere.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Disken på serveren din er full.</translation>
     </message>
     <message>

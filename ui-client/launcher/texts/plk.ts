@@ -108,15 +108,15 @@
         <translation>Sprawdzanie połączenia…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
-        <translation>Instalator Lumivo Drive</translation>
+        <source>Lumivo Drive Setup</source>
+        <translation>Instalator aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>Dzisiaj</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Instalator jest gotowy do zainstalowania aplikacji Lumivo Drive na tym komputerze.</translation>
     </message>
     <message>
@@ -172,7 +172,7 @@
         <translation>Otwórz folder synchronizacji</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Aplikacja Lumivo Drive została zainstalowana</translation>
     </message>
     <message>
@@ -184,16 +184,16 @@
         <translation>Ten folder nakłada się na folder innego zadania synchronizacji. Wybierz inny folder.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
-        <translation>Nie udało się wyświetlić listy folderów na serwerze. Sprawdź połączenie sieciowe i spróbuj ponownie.</translation>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
+        <translation>Nie udało się pobrać listy folderów z serwera. Sprawdź połączenie sieciowe i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Needs attention</source>
         <translation>Wymaga uwagi</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
-        <translation>Certyfikat serwera zmienił się. Sprawdź go, zanim przejdziesz dalej.</translation>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
+        <translation>Certyfikat serwera się zmienił. Sprawdź go, zanim przejdziesz dalej.</translation>
     </message>
     <message>
         <source>Last page</source>
@@ -212,7 +212,7 @@
         <translation>Aktualizacja nie powiodła się. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Nie udało się zweryfikować certyfikatu serwera.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Wznów synchronizację tych folderów</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Dysk tego komputera jest pełny. Zwolnij miejsce, aby kontynuować synchronizację.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Używaj czarno-białej ikony w zasobniku</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Niektóre pola wypełniono niepoprawnie. Popraw je i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>Instalacja została przerwana. Na komputerze nie wprowadzono żadnych zmian.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@
         <translation>Usuń</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>Wybierz folder na serwerze oraz folder lokalny, z którym ma być synchronizowany.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>Typ pliku</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Wybierz sposób konfiguracji</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Język</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>Synchronizacja „%1” została zatrzymana. Otwórz aplikację Lumivo Drive, aby poznać szczegóły.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>Kierunek synchronizacji jest niezgodny z uprawnieniami do tego folderu. Wybierz inny kierunek.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>Kierunek synchronizacji jest niezgodny z Twoimi uprawnieniami do tego folderu. Wybierz inny kierunek.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>luty</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Wersja Lumivo Drive Server jest zbyt stara. Zaktualizuj ją na serwerze.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Ta wersja aplikacji Lumivo Drive Server jest zbyt stara. Zaktualizuj ją na serwerze.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>Ustawienia sieci</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Instalator wprowadza wybrane zmiany.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
-        <translation>Foldery, których zaznaczenie usuniesz, zostaną usunięte z tego komputera. Na serwerze pozostaną.</translation>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
+        <translation>Foldery, które tutaj odznaczysz, zostaną usunięte z tego komputera. Na serwerze pozostaną.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Dysk serwera jest pełny. Zwolnij na nim miejsce, aby kontynuować synchronizację.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Zapisz i skopiuj łącze</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Wprowadź adres serwera i dane swojego konta.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Zaczynamy</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>O %1 str. wstecz</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Aby zainstalować aplikację Lumivo Drive później, uruchom instalator ponownie.</translation>
     </message>
     <message>
@@ -513,18 +513,18 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is too old for your server. Update it to version %1 or later.</source>
-        <translation>Ta wersja Lumivo Drive jest zbyt stara dla tego serwera. Zaktualizuj ją do wersji %1 lub nowszej.</translation>
+        <translation>Ta wersja aplikacji Lumivo Drive jest zbyt stara dla tego serwera. Zaktualizuj ją do wersji %1 lub nowszej.</translation>
     </message>
     <message>
         <source>Change, repair or remove Lumivo Drive</source>
-        <translation>Zmiana, naprawa lub usunięcie Lumivo Drive</translation>
+        <translation>Zmiana, naprawa lub usunięcie aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Connect through ZephLink</source>
-        <translation>Łącz przez ZephLink</translation>
+        <translation>Łącz się przez ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Kliknij „Zainstaluj”, aby rozpocząć. Kliknij „Wstecz”, aby sprawdzić lub zmienić wybrane opcje. Kliknij „Anuluj”, aby zamknąć instalator.</translation>
     </message>
     <message>
@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>Selective sync is not available yet. Update Lumivo Drive Server on your server to use it.</source>
-        <translation>Synchronizacja selektywna nie jest jeszcze dostępna. Aby z niej korzystać, zaktualizuj Lumivo Drive Server na serwerze.</translation>
+        <translation>Synchronizacja selektywna nie jest jeszcze dostępna. Aby z niej korzystać, zaktualizuj na serwerze aplikację Lumivo Drive Server.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>Ready to remove Lumivo Drive</source>
-        <translation>Wszystko gotowe do usunięcia Lumivo Drive</translation>
+        <translation>Wszystko gotowe do usunięcia aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Choose what to sync with this computer and where to keep it.</source>
@@ -564,12 +564,12 @@
         <translation>Wysłano</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Twój dostęp został cofnięty, a zsynchronizowane pliki usunięto z tego komputera. Skontaktuj się z administratorem.</translation>
     </message>
     <message>
         <source>Standby</source>
-        <translation>Oczekiwanie</translation>
+        <translation>W gotowości</translation>
     </message>
     <message>
         <source>OK</source>
@@ -580,7 +580,7 @@
         <translation>Wysyłanie…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Stosowanie ustawień…</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Wyjdź</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Kliknij „Napraw”, aby rozpocząć. Kliknij „Wstecz”, aby sprawdzić swój wybór. Kliknij „Anuluj”, aby zamknąć instalator.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Nie możesz zapisywać w tym folderze. Wybierz inny folder lub zmień jego uprawnienia.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Nie możesz zapisywać w tym folderze. Zmień jego uprawnienia lub wybierz inny folder.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Inny okres</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Obserwuj stan</translation>
+        <source>Check the sync status</source>
+        <translation>Sprawdzaj stan synchronizacji</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>Plik</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Następujące aplikacje używają plików, które instalator musi zaktualizować:</translation>
     </message>
     <message>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>Update Lumivo Drive</source>
-        <translation>Aktualizacja Lumivo Drive</translation>
+        <translation>Aktualizacja aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Learn more</source>
@@ -768,8 +768,8 @@
         <translation>Serwer nie przyjął żądania. Sprawdź wprowadzone dane i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Wersja Lumivo Drive Server jest zbyt stara dla tego komputera. Zaktualizuj ją na serwerze do wersji %1 lub nowszej.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Ta wersja aplikacji Lumivo Drive Server jest zbyt stara dla aplikacji Lumivo Drive na tym komputerze. Zaktualizuj ją na serwerze do wersji %1 lub nowszej.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>Ten folder jest używany przez zadanie tworzenia kopii zapasowej. Wybierz inny folder.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Dysk tego komputera jest pełny.</translation>
     </message>
     <message>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>This ZephLink ID does not exist. Check it and try again.</source>
-        <translation>Ten ZephLink ID nie istnieje. Sprawdź go i spróbuj ponownie.</translation>
+        <translation>Ten identyfikator ZephLink ID nie istnieje. Sprawdź go i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Do not sync these files</source>
@@ -852,8 +852,8 @@
         <translation>Zablokowany plik</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Nie zamykaj aplikacji (komputer będzie trzeba potem uruchomić ponownie)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Nie zamykaj aplikacji (później trzeba będzie uruchomić komputer ponownie)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Wznów</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Kliknij „Zakończ”, aby zamknąć instalator.</translation>
     </message>
     <message>
@@ -904,8 +904,8 @@
         <translation>Pliki w użyciu</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
-        <translation>Instalacja zakończyła się przedwcześnie</translation>
+        <source>Setup ended prematurely</source>
+        <translation>Instalacja została przedwcześnie zakończona</translation>
     </message>
     <message>
         <source>File sharing through ZephLink is turned off on your server. Ask your administrator to turn it on.</source>
@@ -928,11 +928,11 @@
         <translation>Pliki z obu folderów zostaną scalone.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
-        <translation>Ten folder na serwerze jest już synchronizowany z tym komputerem.\nDrugie zadanie synchronizacji sprawi, że zajmie on dwa razy więcej miejsca na dysku.</translation>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
+        <translation>Ten folder na serwerze jest już synchronizowany z tym komputerem.\nPrzy drugim zadaniu synchronizacji zajmowałby dwa razy więcej miejsca na dysku.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>Instalacja została przerwana</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Błąd</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Serwer blokuje adres tego komputera. Poproś administratora o jego odblokowanie.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Drukuj</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
-        <translation>Witamy w instalatorze Lumivo Drive</translation>
+        <source>Welcome to Lumivo Drive Setup</source>
+        <translation>Witamy w instalatorze aplikacji Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>Maksymalna długość tego pola to %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Maksymalna liczba znaków to %1.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -993,7 +993,7 @@
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
-        <translation>Utwórz pusty folder dla Lumivo Drive</translation>
+        <translation>Utwórz pusty folder dla aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>File filter</source>
@@ -1004,7 +1004,7 @@
         <translation>Wszystko, co umieścisz w folderze synchronizacji, pojawi się na serwerze i na Twoich pozostałych komputerach.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Instalator może zmienić, naprawić lub usunąć aplikację Lumivo Drive. Kliknij „Dalej”, aby kontynuować.</translation>
     </message>
     <message>
@@ -1012,12 +1012,12 @@
         <translation>Wybierz folder na serwerze i folder na tym komputerze.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Wprowadź adres i port serwera proxy.</translation>
     </message>
     <message>
         <source>Watching for changes...</source>
-        <translation>Oczekiwanie na zmiany…</translation>
+        <translation>Śledzenie zmian…</translation>
     </message>
     <message>
         <source>Change</source>
@@ -1057,11 +1057,11 @@
     </message>
     <message>
         <source>Ready to repair Lumivo Drive</source>
-        <translation>Wszystko gotowe do naprawy Lumivo Drive</translation>
+        <translation>Wszystko gotowe do naprawy aplikacji Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Odfiltrowane pliki</translation>
+        <source>Skipped files</source>
+        <translation>Pomijane pliki</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,12 +1092,12 @@
         <translation>Synchronizowanie…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Kliknij „Usuń”, aby usunąć aplikację Lumivo Drive z tego komputera. Kliknij „Wstecz”, aby sprawdzić swój wybór. Kliknij „Anuluj”, aby zamknąć instalator.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
-        <translation>Witamy ponownie w instalatorze Lumivo Drive</translation>
+        <source>Welcome back to Lumivo Drive Setup</source>
+        <translation>Witamy ponownie w instalatorze aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Direct</source>
@@ -1116,7 +1116,7 @@
         <translation>Brak miejsca</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Wczytywanie folderów udostępnionych…</translation>
     </message>
     <message>
@@ -1137,11 +1137,11 @@
     </message>
     <message>
         <source>The folder on your server is not mounted. Mount it there and try again.</source>
-        <translation>Folder na serwerze nie jest zamontowany. Zamontuj go i spróbuj ponownie.</translation>
+        <translation>Folder na serwerze nie jest zamontowany. Zamontuj go tam i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Oznaczaj odfiltrowane pliki ikoną</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Oznaczaj pomijane pliki ikoną</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>Dalej</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>Jeśli pliki mają różną zawartość, zachowywane są obie wersje.</translation>
     </message>
     <message>
@@ -1168,19 +1168,19 @@
         <translation>Nie można wyświetlić wersji tego pliku. Sprawdź swoje uprawnienia na serwerze.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
-        <translation>Nie udało się zinterpretować odpowiedzi serwera. Zaktualizuj Lumivo Drive i spróbuj ponownie.</translation>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
+        <translation>Nie udało się zinterpretować odpowiedzi serwera. Zaktualizuj aplikację Lumivo Drive i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the installation of Lumivo Drive?</source>
-        <translation>Czy na pewno chcesz anulować instalację Lumivo Drive?</translation>
+        <translation>Czy na pewno chcesz anulować instalację aplikacji Lumivo Drive?</translation>
     </message>
     <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Pod tym adresem znaleziono inny serwer</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>lipiec</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Niektóre pliki, które trzeba zaktualizować, są w użyciu.</translation>
     </message>
     <message>
@@ -1205,7 +1205,7 @@
     </message>
     <message>
         <source>A newer version of Lumivo Drive is already installed on this computer. Remove it before you install this version.</source>
-        <translation>Na tym komputerze jest już zainstalowana nowsza wersja Lumivo Drive. Usuń ją przed zainstalowaniem tej wersji.</translation>
+        <translation>Na tym komputerze jest już zainstalowana nowsza wersja aplikacji Lumivo Drive. Usuń ją przed zainstalowaniem tej wersji.</translation>
     </message>
     <message>
         <source>Welcome</source>
@@ -1228,19 +1228,19 @@
         <translation>Ogranicz dostęp</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>Instalator zainstaluje aplikację Lumivo Drive na tym komputerze. Kliknij „Dalej”, aby kontynuować, lub „Anuluj”, aby zamknąć instalator.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
-        <translation>Wprowadź adres serwera lub jego ZephLink ID, nazwę użytkownika i hasło.</translation>
+        <translation>Wprowadź adres serwera lub jego identyfikator ZephLink ID, nazwę użytkownika i hasło.</translation>
     </message>
     <message>
         <source>Could not create the folder &quot;%1&quot;. Check its path and your permissions.</source>
         <translation>Nie udało się utworzyć folderu „%1”. Sprawdź jego ścieżkę i swoje uprawnienia.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>Instalacja została przerwana z powodu błędu.\nNa komputerze nie wprowadzono żadnych zmian.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Filtr folderów</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Nie udało się zweryfikować certyfikatu serwera. Sprawdź go w ustawieniach połączenia.</translation>
     </message>
     <message>
@@ -1268,8 +1268,8 @@
         <translation>Plik zmieniono w dwóch miejscach jednocześnie. Zachowano obie wersje. Usuń tę, której nie potrzebujesz.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
-        <translation>Certyfikat serwera zmienił się. Sprawdź go w ustawieniach połączenia.</translation>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
+        <translation>Certyfikat serwera się zmienił. Sprawdź go w ustawieniach połączenia.</translation>
     </message>
     <message>
         <source>Encrypt the connection (SSL)</source>
@@ -1285,7 +1285,7 @@
     </message>
     <message>
         <source>Enter the verification code for your account.</source>
-        <translation>Wprowadź kod weryfikacyjny dla swojego konta.</translation>
+        <translation>Wprowadź kod weryfikacyjny swojego konta.</translation>
     </message>
     <message>
         <source>Information</source>
@@ -1296,7 +1296,7 @@
         <translation>Wybrano usunięcie aplikacji Lumivo Drive z tego komputera.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
         <translation>Nie można śledzić zmian na dysku sieciowym. Wybierz folder na dysku lokalnym.</translation>
     </message>
     <message>
@@ -1325,7 +1325,7 @@
     </message>
     <message>
         <source>The connection to your server was lost. It will be restored automatically.</source>
-        <translation>Utracono połączenie z serwerem. Zostanie ono przywrócone automatycznie.</translation>
+        <translation>Utracono połączenie z serwerem. Zostanie automatycznie przywrócone.</translation>
     </message>
     <message>
         <source>No permission</source>
@@ -1428,8 +1428,8 @@
         <translation>Pokazuj Lumivo Drive w menu kontekstowym</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Wersja Lumivo Drive jest zbyt stara. Zaktualizuj ją na tym komputerze.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Ta wersja aplikacji Lumivo Drive jest zbyt stara. Zaktualizuj ją na tym komputerze.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1589,14 +1589,14 @@
     </message>
     <message>
         <source>Lumivo Drive has no features that can be chosen separately.</source>
-        <translation>Lumivo Drive nie ma funkcji, które można wybrać oddzielnie.</translation>
+        <translation>Aplikacja Lumivo Drive nie ma funkcji, które można wybrać oddzielnie.</translation>
     </message>
     <message>
         <source>Value</source>
         <translation>Wartość</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Nie używasz konta administratora. Aplikacja Lumivo Drive zostanie zainstalowana tylko dla Ciebie.\nCzy chcesz kontynuować?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Nie można tworzyć łączy, ponieważ usługa plików jest wyłączona. Poproś administratora o jej włączenie.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Zamknij aplikacje, a potem spróbuj uruchomić je ponownie</translation>
     </message>
     <message>
@@ -1617,7 +1617,7 @@
     </message>
     <message>
         <source>This version of Lumivo Drive is already installed. Do you want to install it again?</source>
-        <translation>Ta wersja Lumivo Drive jest już zainstalowana. Czy chcesz zainstalować ją ponownie?</translation>
+        <translation>Ta wersja aplikacji Lumivo Drive jest już zainstalowana. Czy chcesz zainstalować ją ponownie?</translation>
     </message>
     <message>
         <source>Set a start date</source>
@@ -1629,7 +1629,7 @@
     </message>
     <message>
         <source>This shared folder is not mounted on your server. Mount it there and try again.</source>
-        <translation>Ten folder udostępniony nie jest zamontowany na serwerze. Zamontuj go i spróbuj ponownie.</translation>
+        <translation>Ten folder udostępniony nie jest zamontowany na serwerze. Zamontuj go tam i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -1656,8 +1656,8 @@
         <translation>Nie synchronizuj tego folderu</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
-        <translation>Certyfikat serwera zmienił się.\nKontynuuj tylko wtedy, gdy wiesz dlaczego.</translation>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
+        <translation>Certyfikat serwera się zmienił.\nKontynuuj tylko wtedy, gdy wiesz dlaczego.</translation>
     </message>
     <message>
         <source>Maximum file size (MB)</source>
@@ -1684,7 +1684,7 @@
         <translation>Przed chwilą</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Instalator jest gotowy do naprawienia aplikacji Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Ten folder możesz tylko odczytywać. Zmiany wprowadzone na tym komputerze nie będą wysyłane.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Nie masz dostępu do tego folderu. Poproś administratora o uprawnienia.</translation>
     </message>
     <message>
@@ -1704,16 +1704,16 @@
         <translation>Trwa synchronizowanie plików. W tym czasie możesz dalej pracować.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Nie udało się zweryfikować certyfikatu serwera.\nKontynuuj tylko wtedy, gdy ufasz tej sieci.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Pliki pozostałe do synchronizacji: %1</translation>
     </message>
     <message>
         <source>Welcome to Lumivo Drive</source>
-        <translation>Witamy w Lumivo Drive</translation>
+        <translation>Witamy w aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Set an end date</source>
@@ -1732,8 +1732,8 @@
         <translation>Twój folder synchronizacji</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Nie udało się zweryfikować certyfikatu serwera. Poproś administratora o ważny certyfikat.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Nie udało się zweryfikować certyfikatu serwera. Poproś administratora o zainstalowanie ważnego certyfikatu.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,7 +1776,7 @@
         <translation>Ikony na plikach lokalnych</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Brak dostępnych czynności</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Wyłączone</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>Serwer nadal indeksuje folder „%1”. Potem będzie można go synchronizować.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Serwer nadal indeksuje folder „%1”. Będzie można go synchronizować po zakończeniu indeksowania.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Gdy plik zmieniono w dwóch miejscach</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Zmień folder</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synchronizuj folder domowy, używając zalecanych ustawień.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Wczytywanie folderów…</translation>
     </message>
     <message>
@@ -1829,10 +1829,10 @@
     </message>
     <message>
         <source>Ready to install Lumivo Drive</source>
-        <translation>Wszystko gotowe do instalacji Lumivo Drive</translation>
+        <translation>Wszystko gotowe do instalacji aplikacji Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Gdy zechcesz zainstalować aplikację Lumivo Drive, uruchom instalator ponownie.</translation>
     </message>
     <message>
@@ -1841,7 +1841,7 @@
     </message>
     <message>
         <source>Server overview</source>
-        <translation>Przegląd serwera</translation>
+        <translation>Informacje o serwerze</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -1876,12 +1876,12 @@
         <translation>Pobieranie…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>Nowy język będzie używany po następnym uruchomieniu Lumivo Drive.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>Nowy język zostanie użyty przy następnym uruchomieniu aplikacji Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
-        <translation>Instalowanie Lumivo Drive</translation>
+        <translation>Instalowanie aplikacji Lumivo Drive</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
@@ -1892,7 +1892,7 @@
         <translation>Szybka konfiguracja jest odpowiednia dla większości użytkowników. Wszystko możesz zmienić później.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Dysk serwera jest pełny.</translation>
     </message>
     <message>

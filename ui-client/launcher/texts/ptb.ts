@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Could not connect to your server. Check your network connection and try again.</source>
-        <translation>Não foi possível conectar ao servidor. Verifique a conexão de rede e tente novamente.</translation>
+        <translation>Não foi possível conectar-se ao servidor. Verifique a conexão de rede e tente novamente.</translation>
     </message>
     <message>
         <source>Repair</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>No, thanks</source>
-        <translation>Não, obrigado</translation>
+        <translation>Agora não</translation>
     </message>
     <message>
         <source>Action</source>
@@ -108,7 +108,7 @@
         <translation>Testando a conexão...</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Instalação do Lumivo Drive</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Hoje</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>O programa de instalação está pronto para instalar o Lumivo Drive neste computador.</translation>
     </message>
     <message>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>This computer is already linked to &quot;%1&quot;. Edit the existing connection instead.</source>
-        <translation>Este computador já está vinculado a “%1”. Edite a conexão existente.</translation>
+        <translation>Este computador já está vinculado a “%1”. Em vez disso, edite a conexão existente.</translation>
     </message>
     <message>
         <source>Update available</source>
@@ -172,7 +172,7 @@
         <translation>Abrir pasta de sincronização</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>O Lumivo Drive foi instalado</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Esta pasta se sobrepõe à pasta de outra tarefa de sincronização. Selecione outra pasta.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Não foi possível listar as pastas do servidor. Verifique a conexão de rede e tente novamente.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Requer atenção</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>O certificado do servidor mudou. Verifique-o antes de continuar.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>Falha na atualização. Tente novamente mais tarde.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Não foi possível verificar o certificado do servidor.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Sincronizar estas pastas novamente</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>O disco deste computador está cheio. Libere espaço para continuar a sincronização.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Usar um ícone em preto e branco na bandeja do sistema</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Alguns campos não foram preenchidos corretamente. Corrija-os e tente novamente.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>A instalação foi interrompida. Nada foi alterado no computador.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@
         <translation>Excluir</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>Escolha uma pasta no servidor e a pasta local que será sincronizada com ela.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>Tipo de arquivo</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Escolha o modo de configuração</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Idioma</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>A sincronização de “%1” parou. Abra o Lumivo Drive para ver os detalhes.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ID do ZephLink</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>A direção da sincronização não é compatível com as permissões desta pasta. Escolha outra direção.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>A direção da sincronização não é compatível com as suas permissões nesta pasta. Escolha outra direção.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>fevereiro</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>O Lumivo Drive Server é antigo demais. Atualize-o no servidor.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Esta versão do Lumivo Drive Server é antiga demais. Atualize-a no servidor.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>Configurações de rede</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>O programa de instalação está aplicando as suas escolhas.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>As pastas que você desmarcar aqui serão removidas deste computador. Elas continuarão no servidor.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>O disco do servidor está cheio. Libere espaço nele para continuar a sincronização.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Salvar e copiar link</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Digite o endereço do servidor e os dados da sua conta.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Vamos começar</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>%1 páginas anteriores</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Para instalar o Lumivo Drive mais tarde, execute o programa de instalação novamente.</translation>
     </message>
     <message>
@@ -524,7 +524,7 @@
         <translation>Conectar pelo ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Clique em “Instalar” para começar. Clique em “Voltar” para revisar ou alterar as suas escolhas. Clique em “Cancelar” para sair da instalação.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Enviado</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Seu acesso foi revogado e os arquivos sincronizados foram removidos deste computador. Entre em contato com o administrador.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Enviando...</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Aplicando as configurações...</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Sair</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Clique em “Reparar” para começar. Clique em “Voltar” para revisar a sua escolha. Clique em “Cancelar” para sair da instalação.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Você não pode gravar nesta pasta. Selecione outra pasta ou altere as permissões dela.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Você não pode gravar nesta pasta. Altere as permissões da pasta ou selecione outra.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Período personalizado</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Acompanhe o status</translation>
+        <source>Check the sync status</source>
+        <translation>Consulte o status da sincronização</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,8 +700,8 @@
         <translation>Arquivo</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
-        <translation>Os aplicativos a seguir usam arquivos que o programa de instalação precisa atualizar:</translation>
+        <source>The following applications are using files that Setup needs to update:</source>
+        <translation>Os aplicativos a seguir estão usando arquivos que o programa de instalação precisa atualizar:</translation>
     </message>
     <message>
         <source>Open Lumivo Drive</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Choose the folders, the sync direction and the sync rules yourself.</source>
-        <translation>Escolha você mesmo as pastas, a direção e as regras de sincronização.</translation>
+        <translation>Escolha por conta própria as pastas, a direção e as regras de sincronização.</translation>
     </message>
     <message>
         <source>Repair the installed files</source>
@@ -768,8 +768,8 @@
         <translation>O servidor não aceitou a solicitação. Verifique os dados digitados e tente novamente.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>O Lumivo Drive Server é antigo demais para este computador. Atualize-o no servidor para a versão %1 ou posterior.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Esta versão do Lumivo Drive Server é antiga demais para a versão do Lumivo Drive instalada neste computador. Atualize o Lumivo Drive Server para a versão %1 ou posterior.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -777,7 +777,7 @@
     </message>
     <message>
         <source>The ZephLink service reported an error. Try again later.</source>
-        <translation>O serviço ZephLink informou um erro. Tente novamente mais tarde.</translation>
+        <translation>O serviço ZephLink relatou um erro. Tente novamente mais tarde.</translation>
     </message>
     <message>
         <source>Close these applications and click Retry, or click Ignore and restart the computer later.</source>
@@ -796,7 +796,7 @@
         <translation>Esta pasta é usada por uma tarefa de backup. Selecione outra pasta.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>O disco deste computador está cheio.</translation>
     </message>
     <message>
@@ -841,7 +841,7 @@
     </message>
     <message>
         <source>Add a sync task</source>
-        <translation>Adicionar tarefa de sincronização</translation>
+        <translation>Adicione uma tarefa de sincronização</translation>
     </message>
     <message>
         <source>Share with others</source>
@@ -852,8 +852,8 @@
         <translation>Arquivo bloqueado</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Não fechar os aplicativos (será necessário reiniciar o computador depois)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Não fechar os aplicativos (você precisará reiniciar o computador mais tarde)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Retomar</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Clique em “Concluir” para sair da instalação.</translation>
     </message>
     <message>
@@ -904,8 +904,8 @@
         <translation>Arquivos em uso</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
-        <translation>A instalação foi encerrada antes do fim</translation>
+        <source>Setup ended prematurely</source>
+        <translation>A instalação foi encerrada prematuramente</translation>
     </message>
     <message>
         <source>File sharing through ZephLink is turned off on your server. Ask your administrator to turn it on.</source>
@@ -928,11 +928,11 @@
         <translation>Os arquivos das duas pastas serão mesclados.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
-        <translation>Esta pasta do servidor já está sincronizada com este computador.\nUma segunda tarefa de sincronização para ela ocupa o dobro do espaço em disco.</translation>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
+        <translation>Esta pasta do servidor já está sincronizada com este computador.\nUma segunda tarefa de sincronização para ela ocuparia o dobro do espaço em disco.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>A instalação foi interrompida</translation>
     </message>
     <message>
@@ -956,8 +956,8 @@
         <translation>Erro</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
-        <translation>O servidor bloqueia o endereço deste computador. Peça ao administrador que o permita.</translation>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
+        <translation>O servidor está bloqueando o endereço deste computador. Peça ao administrador que o permita.</translation>
     </message>
     <message>
         <source>Checking your username and password...</source>
@@ -968,12 +968,12 @@
         <translation>Imprimir</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
-        <translation>Bem-vindo à instalação do Lumivo Drive</translation>
+        <source>Welcome to Lumivo Drive Setup</source>
+        <translation>Boas-vindas à instalação do Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>O comprimento máximo deste campo é %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Digite no máximo %1 caracteres.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1004,7 +1004,7 @@
         <translation>Tudo o que você colocar na pasta de sincronização aparecerá no servidor e nos seus outros computadores.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>O programa de instalação pode alterar, reparar ou remover o Lumivo Drive. Clique em “Avançar” para continuar.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Selecione uma pasta no servidor e uma pasta neste computador.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Digite o endereço e a porta do servidor proxy.</translation>
     </message>
     <message>
@@ -1060,8 +1060,8 @@
         <translation>Pronto para reparar o Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Arquivos filtrados</translation>
+        <source>Skipped files</source>
+        <translation>Arquivos ignorados</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,12 +1092,12 @@
         <translation>Sincronizando...</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Clique em “Remover” para remover o Lumivo Drive deste computador. Clique em “Voltar” para revisar a sua escolha. Clique em “Cancelar” para sair da instalação.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
-        <translation>Bem-vindo de volta à instalação do Lumivo Drive</translation>
+        <source>Welcome back to Lumivo Drive Setup</source>
+        <translation>Boas-vindas de volta à instalação do Lumivo Drive</translation>
     </message>
     <message>
         <source>Direct</source>
@@ -1116,7 +1116,7 @@
         <translation>Sem espaço livre</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Carregando as pastas compartilhadas...</translation>
     </message>
     <message>
@@ -1140,8 +1140,8 @@
         <translation>A pasta no servidor não está montada. Monte-a no servidor e tente novamente.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Marcar arquivos filtrados com um ícone</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Marcar arquivos ignorados com um ícone</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>Avançar</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>As duas versões dos arquivos com conteúdo diferente são mantidas.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>Não é possível listar as versões deste arquivo. Verifique suas permissões no servidor.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Não foi possível entender a resposta do servidor. Atualize o Lumivo Drive e tente novamente.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Porta</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Outro servidor foi encontrado neste endereço</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>julho</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Alguns arquivos que precisam ser atualizados estão em uso.</translation>
     </message>
     <message>
@@ -1209,7 +1209,7 @@
     </message>
     <message>
         <source>Welcome</source>
-        <translation>Bem-vindo</translation>
+        <translation>Boas-vindas</translation>
     </message>
     <message>
         <source>Sync this shared folder</source>
@@ -1228,8 +1228,8 @@
         <translation>Restringir acesso</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
-        <translation>O programa de instalação instala o Lumivo Drive neste computador. Clique em “Avançar” para continuar ou em “Cancelar” para sair da instalação.</translation>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
+        <translation>O programa de instalação instalará o Lumivo Drive neste computador. Clique em “Avançar” para continuar ou em “Cancelar” para sair da instalação.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1240,7 +1240,7 @@
         <translation>Não foi possível criar a pasta “%1”. Verifique o caminho e as suas permissões.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>A instalação foi encerrada devido a um erro.\nNada foi alterado no computador.</translation>
     </message>
     <message>
@@ -1252,8 +1252,8 @@
         <translation>Filtro de pastas</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
-        <translation>Não foi possível verificar o certificado do servidor. Verifique-o nas configurações de conexão.</translation>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
+        <translation>Não foi possível verificar o certificado do servidor. Confira-o nas configurações de conexão.</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -1268,7 +1268,7 @@
         <translation>O arquivo foi alterado em dois lugares ao mesmo tempo. As duas versões foram mantidas. Exclua aquela de que você não precisa.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>O certificado do servidor mudou. Verifique-o nas configurações de conexão.</translation>
     </message>
     <message>
@@ -1296,8 +1296,8 @@
         <translation>Você escolheu remover o Lumivo Drive deste computador.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>Não é possível monitorar alterações em uma unidade de rede. Selecione uma pasta em um disco local.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>Não é possível detectar alterações em uma unidade de rede. Selecione uma pasta em um disco local.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1428,8 +1428,8 @@
         <translation>Mostrar o Lumivo Drive no menu de contexto</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>O Lumivo Drive é antigo demais. Atualize-o neste computador.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Esta versão do Lumivo Drive é antiga demais. Atualize-a neste computador.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1517,7 +1517,7 @@
     </message>
     <message>
         <source>Too many failed attempts. Wait a few minutes and try again.</source>
-        <translation>Excesso de tentativas sem sucesso. Aguarde alguns minutos e tente novamente.</translation>
+        <translation>Muitas tentativas sem sucesso. Aguarde alguns minutos e tente novamente.</translation>
     </message>
     <message>
         <source>September</source>
@@ -1596,7 +1596,7 @@
         <translation>Valor</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Você não entrou como administrador. O Lumivo Drive será instalado somente para você.\nDeseja continuar?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Não é possível criar links porque o serviço de arquivos está desativado. Peça ao administrador que o ative.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Fechar os aplicativos e tentar iniciá-los novamente depois</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Não sincronizar esta pasta</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>O certificado do servidor mudou.\nContinue somente se você souber o motivo.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Agora mesmo</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>O programa de instalação está pronto para reparar o Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Você só pode ler esta pasta. As alterações feitas neste computador não serão enviadas.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Você não tem acesso a esta pasta. Peça permissão ao administrador.</translation>
     </message>
     <message>
@@ -1704,16 +1704,16 @@
         <translation>Seus arquivos estão sendo sincronizados. Enquanto isso, você pode continuar trabalhando.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Não foi possível verificar o certificado do servidor.\nContinue somente se você confiar nesta rede.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Arquivos pendentes de sincronização: %1</translation>
     </message>
     <message>
         <source>Welcome to Lumivo Drive</source>
-        <translation>Bem-vindo ao Lumivo Drive</translation>
+        <translation>Boas-vindas ao Lumivo Drive</translation>
     </message>
     <message>
         <source>Set an end date</source>
@@ -1732,8 +1732,8 @@
         <translation>Sua pasta de sincronização</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Não foi possível verificar o certificado do servidor. Peça ao administrador um certificado válido.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Não foi possível verificar o certificado do servidor. Peça ao administrador que instale um certificado válido.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,7 +1776,7 @@
         <translation>Ícones nos arquivos locais</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Nenhuma ação disponível</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Desativado</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>O servidor ainda está indexando “%1”. A pasta poderá ser sincronizada depois.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>O servidor ainda está indexando “%1”. Você poderá sincronizar a pasta quando a indexação terminar.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Quando um arquivo for alterado em dois lugares</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Alterar pasta</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Sincronize a sua pasta pessoal com as configurações recomendadas.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Carregando as pastas...</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Pronto para instalar o Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Execute o programa de instalação novamente quando quiser instalar o Lumivo Drive.</translation>
     </message>
     <message>
@@ -1876,8 +1876,8 @@
         <translation>Baixando...</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>O novo idioma será usado na próxima inicialização do Lumivo Drive.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>O novo idioma será aplicado na próxima vez que o Lumivo Drive for iniciado.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,7 +1892,7 @@
         <translation>A configuração rápida é adequada para a maioria dos usuários. Você pode alterar tudo mais tarde.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>O disco do servidor está cheio.</translation>
     </message>
     <message>

@@ -108,7 +108,7 @@
         <translation>Проверка подключения…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Установка Lumivo Drive</translation>
     </message>
     <message>
@@ -116,8 +116,8 @@
         <translation>Сегодня</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
-        <translation>Программа установки готова установить Lumivo Drive на этот компьютер.</translation>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
+        <translation>Можно начинать установку Lumivo Drive на этот компьютер.</translation>
     </message>
     <message>
         <source>New shared folder</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
-        <translation>Папка «%1» является точкой монтирования и не может быть синхронизирована. Выберите другую папку.</translation>
+        <translation>Папка «%1» — точка монтирования, ее нельзя синхронизировать. Выберите другую папку.</translation>
     </message>
     <message>
         <source>This computer is already linked to &quot;%1&quot;. Edit the existing connection instead.</source>
@@ -172,7 +172,7 @@
         <translation>Открыть папку синхронизации</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Приложение Lumivo Drive установлено</translation>
     </message>
     <message>
@@ -184,15 +184,15 @@
         <translation>Эта папка пересекается с папкой другого задания синхронизации. Выберите другую папку.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
-        <translation>Не удалось получить список папок сервера. Проверьте подключение к сети и повторите попытку.</translation>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
+        <translation>Не удалось получить список папок на сервере. Проверьте подключение к сети и повторите попытку.</translation>
     </message>
     <message>
         <source>Needs attention</source>
         <translation>Требуется внимание</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Сертификат сервера изменился. Проверьте его, прежде чем продолжить.</translation>
     </message>
     <message>
@@ -212,8 +212,8 @@
         <translation>Не удалось выполнить обновление. Повторите попытку позже.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
-        <translation>Не удалось проверить сертификат сервера.</translation>
+        <source>Your server&apos;s certificate could not be verified.</source>
+        <translation>Не удалось проверить подлинность сертификата сервера.</translation>
     </message>
     <message>
         <source>Please wait. This may take several minutes.</source>
@@ -232,11 +232,11 @@
         <translation>Снова синхронизировать эти папки</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Диск этого компьютера заполнен. Освободите место, чтобы продолжить синхронизацию.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Использовать черно-белый значок в области уведомлений</translation>
     </message>
     <message>
@@ -244,8 +244,8 @@
         <translation>Некоторые поля заполнены неправильно. Исправьте их и повторите попытку.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
-        <translation>Установка была прервана. Компьютер остался без изменений.</translation>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
+        <translation>Установка прервана. На компьютере ничего не изменено.</translation>
     </message>
     <message>
         <source>Folder not found</source>
@@ -264,7 +264,7 @@
         <translation>Удалить</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>Выберите папку на сервере и локальную папку, с которой она будет синхронизироваться.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>Тип файла</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Выберите способ настройки</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Язык</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>Синхронизация «%1» остановлена. Чтобы узнать подробности, откройте Lumivo Drive.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>Направление синхронизации не соответствует правам доступа к этой папке. Выберите другое направление.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>Направление синхронизации не соответствует вашим правам доступа к этой папке. Выберите другое направление.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>февраль</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Версия Lumivo Drive Server устарела. Обновите ее на сервере.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Эта версия Lumivo Drive Server устарела. Обновите ее на сервере.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>Настройки сети</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Программа установки применяет выбранные параметры.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Папки, с которых вы снимете флажки, будут удалены с этого компьютера. На сервере они останутся.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Диск сервера заполнен. Освободите на нем место, чтобы продолжить синхронизацию.</translation>
     </message>
     <message>
@@ -468,28 +468,28 @@
         <translation>Сохранить и скопировать ссылку</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Введите адрес сервера и данные своей учетной записи.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
-        <translation>Давайте начнем</translation>
+        <source>Let&apos;s get started</source>
+        <translation>Начало работы</translation>
     </message>
     <message>
         <source>There are no changes to save.</source>
-        <translation>Нет изменений, которые нужно сохранить.</translation>
+        <translation>Нет изменений для сохранения.</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
         <translation>Назад на %1 стр.</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Чтобы установить Lumivo Drive позже, запустите программу установки еще раз.</translation>
     </message>
     <message>
         <source>Right-click a file in a synced folder to share it or to see its earlier versions.</source>
-        <translation>Щелкните файл в синхронизируемой папке правой кнопкой мыши, чтобы поделиться им или посмотреть его предыдущие версии.</translation>
+        <translation>Щелкните правой кнопкой мыши файл в синхронизируемой папке, чтобы поделиться им или посмотреть его предыдущие версии.</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -524,7 +524,7 @@
         <translation>Подключаться через ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Нажмите «Установить», чтобы начать. Нажмите «Назад», чтобы проверить или изменить выбранные параметры. Нажмите «Отмена», чтобы выйти из программы установки.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Отправлено</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Ваш доступ отозван, и синхронизированные файлы удалены с этого компьютера. Обратитесь к администратору.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Отправка…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Применение настроек…</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Выход</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Нажмите «Восстановить», чтобы начать. Нажмите «Назад», чтобы проверить свой выбор. Нажмите «Отмена», чтобы выйти из программы установки.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Запись в эту папку невозможна. Выберите другую папку или измените права доступа к ней.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Запись в эту папку невозможна. Измените права доступа к ней или выберите другую папку.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Другой срок</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Следите за состоянием</translation>
+        <source>Check the sync status</source>
+        <translation>Следите за состоянием синхронизации</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>Файл</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Следующие приложения используют файлы, которые программа установки должна обновить:</translation>
     </message>
     <message>
@@ -768,8 +768,8 @@
         <translation>Сервер не принял запрос. Проверьте введенные данные и повторите попытку.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Версия Lumivo Drive Server слишком старая для этого компьютера. Обновите ее на сервере до версии %1 или более поздней.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Эта версия Lumivo Drive Server устарела и не подходит для Lumivo Drive на этом компьютере. Обновите ее на сервере до версии %1 или более поздней.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -781,7 +781,7 @@
     </message>
     <message>
         <source>Close these applications and click Retry, or click Ignore and restart the computer later.</source>
-        <translation>Закройте эти приложения и нажмите «Повторить» или нажмите «Пропустить» и перезагрузите компьютер позже.</translation>
+        <translation>Закройте эти приложения и нажмите «Повторить» либо нажмите «Пропустить» и перезагрузите компьютер позже.</translation>
     </message>
     <message>
         <source>Lets you change which features are installed.</source>
@@ -796,7 +796,7 @@
         <translation>Эту папку использует задание резервного копирования. Выберите другую папку.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Диск этого компьютера заполнен.</translation>
     </message>
     <message>
@@ -841,19 +841,19 @@
     </message>
     <message>
         <source>Add a sync task</source>
-        <translation>Добавить задание синхронизации</translation>
+        <translation>Добавьте задание синхронизации</translation>
     </message>
     <message>
         <source>Share with others</source>
-        <translation>Делитесь с другими</translation>
+        <translation>Делитесь файлами с другими</translation>
     </message>
     <message>
         <source>Locked file</source>
         <translation>Заблокированный файл</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Не закрывать приложения (затем потребуется перезагрузить компьютер)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Не закрывать приложения (позже потребуется перезагрузить компьютер)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Возобновить</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Нажмите «Готово», чтобы выйти из программы установки.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Используемые файлы</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>Установка завершилась преждевременно</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>Файлы в обеих папках будут объединены.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>Эта папка на сервере уже синхронизируется с этим компьютером.\nИз-за второго задания синхронизации она займет вдвое больше места на диске.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>Установка прервана</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Ошибка</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Сервер блокирует адрес этого компьютера. Попросите администратора разрешить его.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Печать</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Добро пожаловать в программу установки Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>Максимальная длина этого поля: %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Максимальное количество символов: %1.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1004,7 +1004,7 @@
         <translation>Все, что вы помещаете в папку синхронизации, появляется на сервере и на других ваших компьютерах.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Программа установки может изменить, восстановить или удалить Lumivo Drive. Нажмите «Далее», чтобы продолжить.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Выберите папку на сервере и папку на этом компьютере.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Введите адрес и порт прокси-сервера.</translation>
     </message>
     <message>
@@ -1060,8 +1060,8 @@
         <translation>Все готово к восстановлению Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Отфильтрованные файлы</translation>
+        <source>Skipped files</source>
+        <translation>Пропускаемые файлы</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,12 +1092,12 @@
         <translation>Синхронизация…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Нажмите «Удалить», чтобы удалить Lumivo Drive с этого компьютера. Нажмите «Назад», чтобы проверить свой выбор. Нажмите «Отмена», чтобы выйти из программы установки.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
-        <translation>С возвращением в программу установки Lumivo Drive</translation>
+        <source>Welcome back to Lumivo Drive Setup</source>
+        <translation>Вас снова приветствует программа установки Lumivo Drive</translation>
     </message>
     <message>
         <source>Direct</source>
@@ -1116,7 +1116,7 @@
         <translation>Нет места</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Загрузка списка общих папок…</translation>
     </message>
     <message>
@@ -1137,11 +1137,11 @@
     </message>
     <message>
         <source>The folder on your server is not mounted. Mount it there and try again.</source>
-        <translation>Папка на сервере не смонтирована. Смонтируйте ее и повторите попытку.</translation>
+        <translation>Папка на сервере не смонтирована. Смонтируйте ее там и повторите попытку.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Помечать отфильтрованные файлы значком</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Помечать пропускаемые файлы значком</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>Далее</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>Если содержимое файлов различается, сохраняются обе версии.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>Не удается показать версии этого файла. Проверьте свои права доступа на сервере.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Не удалось распознать ответ сервера. Обновите Lumivo Drive и повторите попытку.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Порт</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>По этому адресу найден другой сервер</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>июль</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Некоторые файлы, которые нужно обновить, сейчас используются.</translation>
     </message>
     <message>
@@ -1228,8 +1228,8 @@
         <translation>Ограничить доступ</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
-        <translation>Программа установки установит Lumivo Drive на этот компьютер. Нажмите «Далее», чтобы продолжить, или «Отмена», чтобы выйти из программы установки.</translation>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
+        <translation>Программа установит Lumivo Drive на этот компьютер. Нажмите «Далее», чтобы продолжить, или «Отмена», чтобы выйти из программы установки.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1240,8 +1240,8 @@
         <translation>Не удалось создать папку «%1». Проверьте путь к ней и свои права доступа.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
-        <translation>Установка прекращена из-за ошибки.\nКомпьютер остался без изменений.</translation>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
+        <translation>Установка прекращена из-за ошибки.\nНа компьютере ничего не изменено.</translation>
     </message>
     <message>
         <source>Your quota on the server is used up. Delete some files to continue syncing.</source>
@@ -1252,8 +1252,8 @@
         <translation>Фильтр папок</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
-        <translation>Не удалось проверить сертификат сервера. Проверьте его в настройках подключения.</translation>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
+        <translation>Не удалось проверить подлинность сертификата сервера. Просмотрите его в настройках подключения.</translation>
     </message>
     <message>
         <source>Choose another folder</source>
@@ -1268,7 +1268,7 @@
         <translation>Файл был одновременно изменен в двух местах. Сохранены обе версии. Удалите ту, которая вам не нужна.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Сертификат сервера изменился. Проверьте его в настройках подключения.</translation>
     </message>
     <message>
@@ -1296,7 +1296,7 @@
         <translation>Вы выбрали удаление Lumivo Drive с этого компьютера.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
         <translation>Отслеживать изменения на сетевом диске невозможно. Выберите папку на локальном диске.</translation>
     </message>
     <message>
@@ -1428,8 +1428,8 @@
         <translation>Показывать Lumivo Drive в контекстном меню</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Версия Lumivo Drive устарела. Обновите ее на этом компьютере.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Эта версия Lumivo Drive устарела. Обновите ее на этом компьютере.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1517,7 +1517,7 @@
     </message>
     <message>
         <source>Too many failed attempts. Wait a few minutes and try again.</source>
-        <translation>Слишком много неудачных попыток. Подождите несколько минут и попробуйте снова.</translation>
+        <translation>Слишком много неудачных попыток. Подождите несколько минут и повторите попытку.</translation>
     </message>
     <message>
         <source>September</source>
@@ -1596,15 +1596,15 @@
         <translation>Значение</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
-        <translation>Вы вошли в систему не как администратор. Приложение Lumivo Drive будет установлено только для вас.\nПродолжить?</translation>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
+        <translation>Вы вошли в систему без прав администратора. Приложение Lumivo Drive будет установлено только для вас.\nПродолжить?</translation>
     </message>
     <message>
         <source>Links cannot be created because the file service is turned off. Ask your administrator to turn it on.</source>
         <translation>Создать ссылку нельзя, так как файловая служба отключена. Попросите администратора включить ее.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Закрыть приложения, а затем попытаться снова их запустить</translation>
     </message>
     <message>
@@ -1629,7 +1629,7 @@
     </message>
     <message>
         <source>This shared folder is not mounted on your server. Mount it there and try again.</source>
-        <translation>Эта общая папка не смонтирована на сервере. Смонтируйте ее и повторите попытку.</translation>
+        <translation>Эта общая папка не смонтирована на сервере. Смонтируйте ее там и повторите попытку.</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -1656,7 +1656,7 @@
         <translation>Не синхронизировать эту папку</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Сертификат сервера изменился.\nПродолжайте, только если вам известна причина.</translation>
     </message>
     <message>
@@ -1684,15 +1684,15 @@
         <translation>Только что</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
-        <translation>Программа установки готова восстановить Lumivo Drive.</translation>
+        <source>Setup is ready to repair Lumivo Drive.</source>
+        <translation>Можно начинать восстановление Lumivo Drive.</translation>
     </message>
     <message>
         <source>You can only read this folder. Changes on this computer will not be uploaded.</source>
         <translation>Эта папка доступна вам только для чтения. Изменения на этом компьютере не будут отправляться на сервер.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>У вас нет доступа к этой папке. Попросите администратора предоставить разрешение.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Файлы синхронизируются. Тем временем вы можете продолжать работу.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
-        <translation>Не удалось проверить сертификат сервера.\nПродолжайте, только если доверяете этой сети.</translation>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
+        <translation>Не удалось проверить подлинность сертификата сервера.\nПродолжайте, только если доверяете этой сети.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Осталось синхронизировать файлов: %1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>Ваша папка синхронизации</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Не удалось проверить сертификат сервера. Попросите у администратора действительный сертификат.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Не удалось проверить подлинность сертификата сервера. Попросите администратора установить действительный сертификат.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,7 +1776,7 @@
         <translation>Значки на локальных файлах</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Нет доступных действий</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Отключено</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>Сервер еще индексирует папку «%1». После этого ее можно будет синхронизировать.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Сервер еще индексирует папку «%1». Ее можно будет синхронизировать после завершения индексации.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Если файл изменен в двух местах</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Изменение папки</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
-        <translation>Синхронизируйте домашнюю папку с рекомендуемыми настройками.</translation>
+        <source>Sync your home folder using the recommended settings.</source>
+        <translation>Синхронизируйте домашнюю папку, используя рекомендуемые настройки.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Загрузка списка папок…</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Все готово к установке Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Когда захотите установить Lumivo Drive, запустите программу установки снова.</translation>
     </message>
     <message>
@@ -1841,7 +1841,7 @@
     </message>
     <message>
         <source>Server overview</source>
-        <translation>Обзор сервера</translation>
+        <translation>Сведения о сервере</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -1876,12 +1876,12 @@
         <translation>Скачивание…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>Новый язык будет использоваться после следующего запуска Lumivo Drive.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>Новый язык будет применен при следующем запуске Lumivo Drive.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
-        <translation>Установка Lumivo Drive</translation>
+        <translation>Выполняется установка Lumivo Drive</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
@@ -1889,10 +1889,10 @@
     </message>
     <message>
         <source>Quick setup suits most users. You can change everything later.</source>
-        <translation>Быстрая настройка подходит большинству пользователей. Позже все можно изменить.</translation>
+        <translation>Быстрая настройка подходит большинству пользователей. Позже все можно будет изменить.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Диск сервера заполнен.</translation>
     </message>
     <message>

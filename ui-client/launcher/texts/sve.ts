@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Mount point not allowed</source>
-        <translation>Monteringspunkt tillåts inte</translation>
+        <translation>Monteringspunkten tillåts inte</translation>
     </message>
     <message>
         <source>Password</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Files with these names will not be synced.</source>
-        <translation>Filer med dessa namn synkroniseras inte.</translation>
+        <translation>Filer med de här namnen synkroniseras inte.</translation>
     </message>
     <message>
         <source>Could not connect to your server. Check your network connection and try again.</source>
@@ -108,15 +108,15 @@
         <translation>Testar anslutningen…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Installation av Lumivo Drive</translation>
     </message>
     <message>
         <source>Today</source>
-        <translation>Idag</translation>
+        <translation>I dag</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Installationsprogrammet är redo att installera Lumivo Drive på den här datorn.</translation>
     </message>
     <message>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>No usable folder was found. Ask your administrator for access to a shared folder.</source>
-        <translation>Ingen mapp som kan användas hittades. Be administratören om åtkomst till en delad mapp.</translation>
+        <translation>Ingen användbar mapp hittades. Be administratören om åtkomst till en delad mapp.</translation>
     </message>
     <message>
         <source>Could not enable syncing for this shared folder. Try again later.</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>%1 d ago</source>
-        <translation>för %1 d sedan</translation>
+        <translation>För %1 d sedan</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; is a mount point and cannot be synced. Select another folder.</source>
@@ -172,7 +172,7 @@
         <translation>Öppna synkroniseringsmappen</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive har installerats</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Den här mappen överlappar mappen för en annan synkroniseringsuppgift. Välj en annan mapp.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Mapparna på din server kunde inte visas. Kontrollera nätverksanslutningen och försök igen.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>Kräver åtgärd</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Certifikatet för din server har ändrats. Kontrollera det innan du fortsätter.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>Uppdateringen misslyckades. Försök igen senare.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Certifikatet för din server kunde inte verifieras.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Synkronisera de här mapparna igen</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Datorns disk är full. Frigör utrymme för att fortsätta synkronisera.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Använd en svartvit ikon i meddelandefältet</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Vissa fält är inte korrekt ifyllda. Rätta dem och försök igen.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>Installationen avbröts. Inga ändringar har gjorts på datorn.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@
         <translation>Radera</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>Välj en mapp på din server och den lokala mapp som den ska synkroniseras med.</translation>
     </message>
     <message>
@@ -296,7 +296,7 @@
         <translation>Filtyp</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
+        <source>Choose a setup type</source>
         <translation>Välj konfigurationssätt</translation>
     </message>
     <message>
@@ -340,7 +340,7 @@
         <translation>Språk</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>Synkroniseringen av ”%1” har stoppats. Öppna Lumivo Drive för mer information.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink-ID</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>Synkroniseringsriktningen stämmer inte med behörigheterna för den här mappen. Välj en annan riktning.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>Synkroniseringsriktningen stämmer inte med dina behörigheter för den här mappen. Välj en annan riktning.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>februari</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Versionen av Lumivo Drive Server är för gammal. Uppdatera den på din server.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Den här versionen av Lumivo Drive Server är för gammal. Uppdatera den på din server.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -440,15 +440,15 @@
         <translation>Nätverksinställningar</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Installationsprogrammet tillämpar dina val.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Mappar som du avmarkerar här tas bort från den här datorn. De finns kvar på din server.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Disken på din server är full. Frigör utrymme på den för att fortsätta synkronisera.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Spara och kopiera länk</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
-        <translation>Ange serverns adress och ditt konto.</translation>
+        <source>Enter your server&apos;s address and your account details.</source>
+        <translation>Ange serverns adress och dina kontouppgifter.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Kom igång</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>Föregående %1 sidor</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Kör installationsprogrammet igen om du vill installera Lumivo Drive senare.</translation>
     </message>
     <message>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>Yesterday</source>
-        <translation>Igår</translation>
+        <translation>I går</translation>
     </message>
     <message>
         <source>Status information</source>
@@ -524,7 +524,7 @@
         <translation>Anslut via ZephLink</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Klicka på Installera för att börja. Klicka på Tillbaka för att granska eller ändra dina val. Klicka på Avbryt för att avsluta installationsprogrammet.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Uppladdad</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Din åtkomst har återkallats och de synkroniserade filerna har tagits bort från den här datorn. Kontakta administratören.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Laddar upp…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Tillämpar inställningarna…</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Avsluta</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klicka på Reparera för att börja. Klicka på Tillbaka för att granska ditt val. Klicka på Avbryt för att avsluta installationsprogrammet.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Du kan inte skriva till den här mappen. Välj en annan mapp eller ändra dess behörigheter.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Du kan inte skriva till den här mappen. Ändra mappens behörigheter eller välj en annan mapp.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Anpassad varaktighet</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Håll koll på statusen</translation>
+        <source>Check the sync status</source>
+        <translation>Håll koll på synkroniseringsstatusen</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>Fil</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Följande program använder filer som installationsprogrammet måste uppdatera:</translation>
     </message>
     <message>
@@ -768,8 +768,8 @@
         <translation>Servern godtog inte begäran. Kontrollera dina uppgifter och försök igen.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Versionen av Lumivo Drive Server är för gammal för den här datorn. Uppdatera den på din server till version %1 eller senare.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Den här versionen av Lumivo Drive Server är för gammal för Lumivo Drive på den här datorn. Uppdatera den på din server till version %1 eller senare.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>Den här mappen används av en säkerhetskopieringsuppgift. Välj en annan mapp.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Datorns disk är full.</translation>
     </message>
     <message>
@@ -813,7 +813,7 @@
     </message>
     <message>
         <source>This ZephLink ID does not exist. Check it and try again.</source>
-        <translation>Detta ZephLink-ID finns inte. Kontrollera det och försök igen.</translation>
+        <translation>Det här ZephLink-ID:t finns inte. Kontrollera det och försök igen.</translation>
     </message>
     <message>
         <source>Do not sync these files</source>
@@ -852,8 +852,8 @@
         <translation>Låst fil</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Stäng inte programmen (datorn måste startas om efteråt)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Stäng inte programmen (du måste starta om datorn senare)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Återuppta</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Klicka på Slutför för att avsluta installationsprogrammet.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Filer som används</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>Installationen avslutades i förtid</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>Filerna i båda mapparna slås samman.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
-        <translation>Den här mappen på din server synkroniseras redan med den här datorn.\nYtterligare en synkroniseringsuppgift för den tar upp dubbelt så mycket diskutrymme.</translation>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
+        <translation>Den här mappen på din server synkroniseras redan med den här datorn.\nYtterligare en synkroniseringsuppgift för den skulle ta upp dubbelt så mycket diskutrymme.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>Installationen avbröts</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Fel</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Din server blockerar den här datorns adress. Be administratören att tillåta den.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Skriv ut</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Välkommen till installationen av Lumivo Drive</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>Fältets maximala längd är %1.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>Ange högst %1 tecken.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -989,7 +989,7 @@
     </message>
     <message>
         <source>Keyword</source>
-        <translation>Nyckelord</translation>
+        <translation>Sökord</translation>
     </message>
     <message>
         <source>Create an empty folder for Lumivo Drive</source>
@@ -1004,7 +1004,7 @@
         <translation>Allt som du lägger i synkroniseringsmappen dyker upp på din server och på dina andra datorer.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
         <translation>Installationsprogrammet kan ändra, reparera eller ta bort Lumivo Drive. Klicka på Nästa för att fortsätta.</translation>
     </message>
     <message>
@@ -1012,7 +1012,7 @@
         <translation>Välj en mapp på din server och en mapp på den här datorn.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Ange proxyserverns adress och port.</translation>
     </message>
     <message>
@@ -1060,8 +1060,8 @@
         <translation>Redo att reparera Lumivo Drive</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Filtrerade filer</translation>
+        <source>Skipped files</source>
+        <translation>Överhoppade filer</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>Synkroniserar…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Klicka på Ta bort för att ta bort Lumivo Drive från den här datorn. Klicka på Tillbaka för att granska ditt val. Klicka på Avbryt för att avsluta installationsprogrammet.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Välkommen tillbaka till installationen av Lumivo Drive</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Slut på utrymme</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Läser in delade mappar…</translation>
     </message>
     <message>
@@ -1140,8 +1140,8 @@
         <translation>Mappen på din server är inte monterad. Montera den där och försök igen.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Märk filtrerade filer med en ikon</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Märk överhoppade filer med en ikon</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>Nästa</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>För filer med olika innehåll behålls båda versionerna.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>Versionerna av den här filen kan inte visas. Kontrollera dina behörigheter på servern.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Serverns svar kunde inte tolkas. Uppdatera Lumivo Drive och försök igen.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>En annan server hittades på den här adressen</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>juli</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Vissa filer som måste uppdateras används just nu.</translation>
     </message>
     <message>
@@ -1228,7 +1228,7 @@
         <translation>Begränsa åtkomst</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
         <translation>Installationsprogrammet installerar Lumivo Drive på den här datorn. Klicka på Nästa för att fortsätta eller på Avbryt för att avsluta installationsprogrammet.</translation>
     </message>
     <message>
@@ -1240,7 +1240,7 @@
         <translation>Det gick inte att skapa mappen ”%1”. Kontrollera sökvägen och dina behörigheter.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>Installationen avslutades på grund av ett fel.\nInga ändringar har gjorts på datorn.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Mappfilter</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Certifikatet för din server kunde inte verifieras. Kontrollera det i anslutningsinställningarna.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Filen ändrades på två ställen samtidigt. Båda versionerna har behållits. Radera den som du inte behöver.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Certifikatet för din server har ändrats. Kontrollera det i anslutningsinställningarna.</translation>
     </message>
     <message>
@@ -1296,8 +1296,8 @@
         <translation>Du har valt att ta bort Lumivo Drive från den här datorn.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>Ändringar på en nätverksenhet kan inte bevakas. Välj en mapp på en lokal disk.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>Ändringar på en nätverksenhet kan inte upptäckas. Välj en mapp på en lokal disk.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>%1 h ago</source>
-        <translation>för %1 tim sedan</translation>
+        <translation>För %1 tim sedan</translation>
     </message>
     <message>
         <source>Files and folders that match these rules are not synced.</source>
@@ -1428,8 +1428,8 @@
         <translation>Visa Lumivo Drive på snabbmenyn</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Versionen av Lumivo Drive är för gammal. Uppdatera den på den här datorn.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Den här versionen av Lumivo Drive är för gammal. Uppdatera den på den här datorn.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>%1 min ago</source>
-        <translation>för %1 min sedan</translation>
+        <translation>För %1 min sedan</translation>
     </message>
     <message>
         <source>This shared folder will no longer be synced. The files that are already on this computer will be kept.</source>
@@ -1596,7 +1596,7 @@
         <translation>Värde</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Du är inte inloggad som administratör. Lumivo Drive installeras endast för dig.\nVill du fortsätta?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Länkar kan inte skapas eftersom filtjänsten är avstängd. Be administratören att slå på den.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Stäng programmen och försök starta dem igen efteråt</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Synkronisera inte den här mappen</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Certifikatet för din server har ändrats.\nFortsätt bara om du vet varför.</translation>
     </message>
     <message>
@@ -1684,7 +1684,7 @@
         <translation>Alldeles nyss</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
+        <source>Setup is ready to repair Lumivo Drive.</source>
         <translation>Installationsprogrammet är redo att reparera Lumivo Drive.</translation>
     </message>
     <message>
@@ -1692,7 +1692,7 @@
         <translation>Du kan bara läsa den här mappen. Ändringar på den här datorn laddas inte upp.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Du har inte åtkomst till den här mappen. Be administratören om behörighet.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Dina filer synkroniseras. Du kan fortsätta arbeta under tiden.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Certifikatet för din server kunde inte verifieras.\nFortsätt bara om du litar på det här nätverket.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Filer kvar att synkronisera: %1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>Din synkroniseringsmapp</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Certifikatet för din server kunde inte verifieras. Be administratören om ett giltigt certifikat.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Certifikatet för din server kunde inte verifieras. Be administratören att installera ett giltigt certifikat.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,8 +1776,8 @@
         <translation>Ikoner på lokala filer</translation>
     </message>
     <message>
-        <source>No action available</source>
-        <translation>Ingen åtgärd tillgänglig</translation>
+        <source>No actions available</source>
+        <translation>Inga tillgängliga åtgärder</translation>
     </message>
     <message>
         <source>File name</source>
@@ -1796,11 +1796,11 @@
         <translation>Inaktiverad</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>Din server indexerar fortfarande ”%1”. Därefter kan mappen synkroniseras.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Din server indexerar fortfarande ”%1”. Du kan synkronisera mappen när indexeringen är klar.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>När en fil har ändrats på två ställen</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Byt mapp</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
+        <source>Sync your home folder using the recommended settings.</source>
         <translation>Synkronisera din hemmapp med rekommenderade inställningar.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Läser in mappar…</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Redo att installera Lumivo Drive</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Kör installationsprogrammet igen när du vill installera Lumivo Drive.</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Laddar ned…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
         <translation>Det nya språket används nästa gång Lumivo Drive startas.</translation>
     </message>
     <message>
@@ -1892,7 +1892,7 @@
         <translation>Snabbkonfigurationen passar de flesta användare. Du kan ändra allt senare.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Disken på din server är full.</translation>
     </message>
     <message>

@@ -108,7 +108,7 @@
         <translation>Bağlantı sınanıyor…</translation>
     </message>
     <message>
-        <source>Lumivo Drive setup</source>
+        <source>Lumivo Drive Setup</source>
         <translation>Lumivo Drive kurulumu</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Bugün</translation>
     </message>
     <message>
-        <source>The setup program is ready to install Lumivo Drive on this computer.</source>
+        <source>Setup is ready to install Lumivo Drive on this computer.</source>
         <translation>Kurulum programı, Lumivo Drive uygulamasını bu bilgisayara yüklemeye hazır.</translation>
     </message>
     <message>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Could not enable syncing for this shared folder. Try again later.</source>
-        <translation>Bu paylaşılan klasörün eşitlenmesi etkinleştirilemedi. Daha sonra yeniden deneyin.</translation>
+        <translation>Bu paylaşılan klasör için eşitleme etkinleştirilemedi. Daha sonra yeniden deneyin.</translation>
     </message>
     <message>
         <source>To</source>
@@ -172,7 +172,7 @@
         <translation>Eşitleme klasörünü aç</translation>
     </message>
     <message>
-        <source>Lumivo Drive was installed</source>
+        <source>Lumivo Drive has been installed</source>
         <translation>Lumivo Drive yüklendi</translation>
     </message>
     <message>
@@ -184,7 +184,7 @@
         <translation>Bu klasör, başka bir eşitleme görevinin klasörüyle çakışıyor. Başka bir klasör seçin.</translation>
     </message>
     <message>
-        <source>The folders of your server could not be listed. Check your network connection and try again.</source>
+        <source>The folders on your server could not be listed. Check your network connection and try again.</source>
         <translation>Sunucunuzdaki klasörler listelenemedi. Ağ bağlantınızı denetleyip yeniden deneyin.</translation>
     </message>
     <message>
@@ -192,7 +192,7 @@
         <translation>İlgilenmeniz gerekiyor</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it before you continue.</source>
+        <source>Your server&apos;s certificate has changed. Check it before you continue.</source>
         <translation>Sunucunuzun sertifikası değişti. Devam etmeden önce sertifikayı denetleyin.</translation>
     </message>
     <message>
@@ -212,7 +212,7 @@
         <translation>Güncelleme başarısız oldu. Daha sonra yeniden deneyin.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.</source>
+        <source>Your server&apos;s certificate could not be verified.</source>
         <translation>Sunucunuzun sertifikası doğrulanamadı.</translation>
     </message>
     <message>
@@ -232,11 +232,11 @@
         <translation>Bu klasörleri yeniden eşitle</translation>
     </message>
     <message>
-        <source>The disk of this computer is full. Free some space to continue syncing.</source>
+        <source>This computer&apos;s disk is full. Free up some space to continue syncing.</source>
         <translation>Bu bilgisayarın diski dolu. Eşitlemeye devam etmek için yer açın.</translation>
     </message>
     <message>
-        <source>Use a black and white tray icon</source>
+        <source>Use a black-and-white tray icon</source>
         <translation>Bildirim alanında siyah beyaz simge kullan</translation>
     </message>
     <message>
@@ -244,7 +244,7 @@
         <translation>Bazı alanlar doğru doldurulmamış. Bu alanları düzeltip yeniden deneyin.</translation>
     </message>
     <message>
-        <source>The setup was interrupted. Your computer has not been changed.</source>
+        <source>Setup was interrupted. Your computer has not been changed.</source>
         <translation>Kurulum yarıda kesildi. Bilgisayarınızda hiçbir değişiklik yapılmadı.</translation>
     </message>
     <message>
@@ -264,7 +264,7 @@
         <translation>Sil</translation>
     </message>
     <message>
-        <source>Choose a folder on your server and the local folder that it syncs with.</source>
+        <source>Choose a folder on your server and the local folder to sync it with.</source>
         <translation>Sunucunuzdaki bir klasörü ve onunla eşitlenecek yerel klasörü seçin.</translation>
     </message>
     <message>
@@ -296,8 +296,8 @@
         <translation>Dosya türü</translation>
     </message>
     <message>
-        <source>Choose how to set up</source>
-        <translation>Kurulum biçimini seçin</translation>
+        <source>Choose a setup type</source>
+        <translation>Kurulum türünü seçin</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -340,7 +340,7 @@
         <translation>Dil</translation>
     </message>
     <message>
-        <source>Syncing of &quot;%1&quot; has stopped. Open Lumivo Drive for details.</source>
+        <source>&quot;%1&quot; has stopped syncing. Open Lumivo Drive for details.</source>
         <translation>“%1” için eşitleme durdu. Ayrıntılar için Lumivo Drive uygulamasını açın.</translation>
     </message>
     <message>
@@ -352,8 +352,8 @@
         <translation>ZephLink kimliği</translation>
     </message>
     <message>
-        <source>The sync direction does not match the permissions of this folder. Choose another direction.</source>
-        <translation>Eşitleme yönü bu klasörün izinlerine uygun değil. Başka bir yön seçin.</translation>
+        <source>The sync direction does not match your permissions for this folder. Choose another direction.</source>
+        <translation>Eşitleme yönü bu klasördeki izinlerinize uygun değil. Başka bir yön seçin.</translation>
     </message>
     <message>
         <source>More details</source>
@@ -368,8 +368,8 @@
         <translation>Şubat</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old. Update it on your server.</source>
-        <translation>Lumivo Drive Server çok eski. Sunucunuzda güncelleyin.</translation>
+        <source>This version of Lumivo Drive Server is too old. Update it on your server.</source>
+        <translation>Bu Lumivo Drive Server sürümü çok eski. Sunucunuzda güncelleyin.</translation>
     </message>
     <message>
         <source>Sync rules</source>
@@ -397,7 +397,7 @@
     </message>
     <message>
         <source>Get link</source>
-        <translation>Bağlantı al</translation>
+        <translation>Paylaşım bağlantısı al</translation>
     </message>
     <message>
         <source>Options</source>
@@ -440,15 +440,15 @@
         <translation>Ağ ayarları</translation>
     </message>
     <message>
-        <source>The setup program is applying your choices.</source>
+        <source>Setup is applying your choices.</source>
         <translation>Kurulum programı seçimlerinizi uyguluyor.</translation>
     </message>
     <message>
-        <source>Folders that you clear here will be removed from this computer. They stay on your server.</source>
+        <source>Folders that you deselect here will be removed from this computer. They will remain on your server.</source>
         <translation>Burada seçimini kaldırdığınız klasörler bu bilgisayardan kaldırılır, ancak sunucunuzda kalır.</translation>
     </message>
     <message>
-        <source>The disk of your server is full. Free some space on it to continue syncing.</source>
+        <source>Your server&apos;s disk is full. Free up some space on it to continue syncing.</source>
         <translation>Sunucunuzun diski dolu. Eşitlemeye devam etmek için diskte yer açın.</translation>
     </message>
     <message>
@@ -468,11 +468,11 @@
         <translation>Kaydet ve bağlantıyı kopyala</translation>
     </message>
     <message>
-        <source>Enter the address of your server and your account.</source>
+        <source>Enter your server&apos;s address and your account details.</source>
         <translation>Sunucunuzun adresini ve hesap bilgilerinizi girin.</translation>
     </message>
     <message>
-        <source>Let us get started</source>
+        <source>Let&apos;s get started</source>
         <translation>Haydi başlayalım</translation>
     </message>
     <message>
@@ -484,7 +484,7 @@
         <translation>Önceki %1 sayfa</translation>
     </message>
     <message>
-        <source>To install Lumivo Drive later, run the setup program again.</source>
+        <source>To install Lumivo Drive later, run Setup again.</source>
         <translation>Lumivo Drive uygulamasını daha sonra yüklemek için kurulum programını yeniden çalıştırın.</translation>
     </message>
     <message>
@@ -524,7 +524,7 @@
         <translation>ZephLink üzerinden bağlan</translation>
     </message>
     <message>
-        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to leave the setup.</source>
+        <source>Click Install to begin. Click Back to review or change your choices. Click Cancel to exit Setup.</source>
         <translation>Başlamak için Yükle’ye tıklayın. Seçimlerinizi gözden geçirmek veya değiştirmek için Geri’ye tıklayın. Kurulumdan çıkmak için İptal’e tıklayın.</translation>
     </message>
     <message>
@@ -564,7 +564,7 @@
         <translation>Karşıya yüklendi</translation>
     </message>
     <message>
-        <source>Your access was revoked and the synced files were removed from this computer. Contact your administrator.</source>
+        <source>Your access was revoked, and the synced files were removed from this computer. Contact your administrator.</source>
         <translation>Erişiminiz iptal edildi ve eşitlenen dosyalar bu bilgisayardan kaldırıldı. Yöneticinize başvurun.</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Karşıya yükleniyor…</translation>
     </message>
     <message>
-        <source>Applying the settings...</source>
+        <source>Applying settings...</source>
         <translation>Ayarlar uygulanıyor…</translation>
     </message>
     <message>
@@ -600,12 +600,12 @@
         <translation>Çık</translation>
     </message>
     <message>
-        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Repair to begin. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Başlamak için Onar’a tıklayın. Seçiminizi gözden geçirmek için Geri’ye tıklayın. Kurulumdan çıkmak için İptal’e tıklayın.</translation>
     </message>
     <message>
-        <source>You cannot write to this folder. Select another folder or change its permissions.</source>
-        <translation>Bu klasöre yazamazsınız. Başka bir klasör seçin veya klasörün izinlerini değiştirin.</translation>
+        <source>You cannot write to this folder. Change its permissions or select another folder.</source>
+        <translation>Bu klasöre yazamazsınız. Klasörün izinlerini değiştirin veya başka bir klasör seçin.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -684,8 +684,8 @@
         <translation>Özel süre</translation>
     </message>
     <message>
-        <source>Watch the status</source>
-        <translation>Durumu izleyin</translation>
+        <source>Check the sync status</source>
+        <translation>Eşitleme durumunu izleyin</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -700,7 +700,7 @@
         <translation>Dosya</translation>
     </message>
     <message>
-        <source>The following applications use files that the setup program has to update:</source>
+        <source>The following applications are using files that Setup needs to update:</source>
         <translation>Aşağıdaki uygulamalar, kurulum programının güncellemesi gereken dosyaları kullanıyor:</translation>
     </message>
     <message>
@@ -733,7 +733,7 @@
     </message>
     <message>
         <source>Created</source>
-        <translation>Oluşturulma</translation>
+        <translation>Oluşturulma tarihi</translation>
     </message>
     <message>
         <source>Keep the files on this computer and on your server in sync.</source>
@@ -768,8 +768,8 @@
         <translation>Sunucu isteği kabul etmedi. Girdiğiniz bilgileri denetleyip yeniden deneyin.</translation>
     </message>
     <message>
-        <source>Lumivo Drive Server is too old for this computer. Update it on your server to version %1 or later.</source>
-        <translation>Lumivo Drive Server bu bilgisayar için çok eski. Sunucunuzda %1 veya daha yeni bir sürüme güncelleyin.</translation>
+        <source>This version of Lumivo Drive Server is too old for Lumivo Drive on this computer. Update it on your server to version %1 or later.</source>
+        <translation>Bu Lumivo Drive Server sürümü, bu bilgisayardaki Lumivo Drive uygulaması için çok eski. Sunucunuzda %1 veya daha yeni bir sürüme güncelleyin.</translation>
     </message>
     <message>
         <source>Send to</source>
@@ -796,7 +796,7 @@
         <translation>Bu klasör bir yedekleme görevi tarafından kullanılıyor. Başka bir klasör seçin.</translation>
     </message>
     <message>
-        <source>The disk of this computer is full.</source>
+        <source>This computer&apos;s disk is full.</source>
         <translation>Bu bilgisayarın diski dolu.</translation>
     </message>
     <message>
@@ -852,8 +852,8 @@
         <translation>Kilitli dosya</translation>
     </message>
     <message>
-        <source>Do not close the applications (the computer has to be restarted afterwards)</source>
-        <translation>Uygulamaları açık bırak (bilgisayarın sonradan yeniden başlatılması gerekir)</translation>
+        <source>Do not close the applications (you will have to restart the computer later)</source>
+        <translation>Uygulamaları açık bırak (bilgisayarı daha sonra yeniden başlatmanız gerekecek)</translation>
     </message>
     <message>
         <source>About Lumivo Drive</source>
@@ -880,7 +880,7 @@
         <translation>Sürdür</translation>
     </message>
     <message>
-        <source>Click Finish to leave the setup.</source>
+        <source>Click Finish to exit Setup.</source>
         <translation>Kurulumdan çıkmak için Son’a tıklayın.</translation>
     </message>
     <message>
@@ -904,7 +904,7 @@
         <translation>Kullanımda olan dosyalar</translation>
     </message>
     <message>
-        <source>The setup ended too early</source>
+        <source>Setup ended prematurely</source>
         <translation>Kurulum tamamlanmadan sona erdi</translation>
     </message>
     <message>
@@ -928,11 +928,11 @@
         <translation>İki klasördeki dosyalar birleştirilecek.</translation>
     </message>
     <message>
-        <source>This folder on your server is already synced with this computer.\nA second sync task for it takes up disk space twice.</source>
+        <source>This folder on your server is already synced with this computer.\nA second sync task for it would take up twice the disk space.</source>
         <translation>Sunucunuzdaki bu klasör bu bilgisayarla zaten eşitleniyor.\nKlasör için ikinci bir eşitleme görevi iki kat disk alanı kaplar.</translation>
     </message>
     <message>
-        <source>The setup was interrupted</source>
+        <source>Setup was interrupted</source>
         <translation>Kurulum yarıda kesildi</translation>
     </message>
     <message>
@@ -956,7 +956,7 @@
         <translation>Hata</translation>
     </message>
     <message>
-        <source>Your server blocks the address of this computer. Ask your administrator to allow it.</source>
+        <source>Your server is blocking this computer&apos;s address. Ask your administrator to allow it.</source>
         <translation>Sunucunuz bu bilgisayarın adresini engelliyor. Yöneticinizden adrese izin vermesini isteyin.</translation>
     </message>
     <message>
@@ -968,12 +968,12 @@
         <translation>Yazdır</translation>
     </message>
     <message>
-        <source>Welcome to the setup of Lumivo Drive</source>
+        <source>Welcome to Lumivo Drive Setup</source>
         <translation>Lumivo Drive kurulumuna hoş geldiniz</translation>
     </message>
     <message>
-        <source>The maximum length of this field is %1.</source>
-        <translation>Bu alanın uzunluğu en fazla %1 olabilir.</translation>
+        <source>Enter no more than %1 characters.</source>
+        <translation>En fazla %1 karakter girin.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1004,15 +1004,15 @@
         <translation>Eşitleme klasörünüze koyduğunuz her şey sunucunuzda ve diğer bilgisayarlarınızda görünür.</translation>
     </message>
     <message>
-        <source>The setup program can change, repair or remove Lumivo Drive. Click Next to continue.</source>
-        <translation>Kurulum programı Lumivo Drive uygulamasını değiştirebilir, onarabilir veya kaldırabilir. Devam etmek için İleri’ye tıklayın.</translation>
+        <source>Setup can change, repair or remove Lumivo Drive. Click Next to continue.</source>
+        <translation>Kurulum programı, Lumivo Drive uygulamasını değiştirebilir, onarabilir veya kaldırabilir. Devam etmek için İleri’ye tıklayın.</translation>
     </message>
     <message>
         <source>Select a folder on your server and a folder on this computer.</source>
         <translation>Sunucunuzdaki bir klasörü ve bu bilgisayardaki bir klasörü seçin.</translation>
     </message>
     <message>
-        <source>Enter the address and the port of the proxy server.</source>
+        <source>Enter the address and port of the proxy server.</source>
         <translation>Proxy sunucusunun adresini ve bağlantı noktasını girin.</translation>
     </message>
     <message>
@@ -1060,8 +1060,8 @@
         <translation>Lumivo Drive onarılmaya hazır</translation>
     </message>
     <message>
-        <source>Filtered files</source>
-        <translation>Filtrelenen dosyalar</translation>
+        <source>Skipped files</source>
+        <translation>Atlanan dosyalar</translation>
     </message>
     <message>
         <source>Lumivo Drive is now installed on this computer.</source>
@@ -1092,11 +1092,11 @@
         <translation>Eşitleniyor…</translation>
     </message>
     <message>
-        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to leave the setup.</source>
+        <source>Click Remove to remove Lumivo Drive from this computer. Click Back to review your choice. Click Cancel to exit Setup.</source>
         <translation>Lumivo Drive uygulamasını bu bilgisayardan kaldırmak için Kaldır’a tıklayın. Seçiminizi gözden geçirmek için Geri’ye tıklayın. Kurulumdan çıkmak için İptal’e tıklayın.</translation>
     </message>
     <message>
-        <source>Welcome back to the setup of Lumivo Drive</source>
+        <source>Welcome back to Lumivo Drive Setup</source>
         <translation>Lumivo Drive kurulumuna yeniden hoş geldiniz</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Yer kalmadı</translation>
     </message>
     <message>
-        <source>Loading the shared folders...</source>
+        <source>Loading shared folders...</source>
         <translation>Paylaşılan klasörler yükleniyor…</translation>
     </message>
     <message>
@@ -1140,8 +1140,8 @@
         <translation>Sunucunuzdaki klasör bağlı değil. Klasörü sunucuda bağlayıp yeniden deneyin.</translation>
     </message>
     <message>
-        <source>Mark filtered files with an icon</source>
-        <translation>Filtrelenen dosyaları simgeyle işaretle</translation>
+        <source>Mark skipped files with an icon</source>
+        <translation>Atlanan dosyaları simgeyle işaretle</translation>
     </message>
     <message>
         <source>Checking the connection type...</source>
@@ -1152,7 +1152,7 @@
         <translation>İleri</translation>
     </message>
     <message>
-        <source>Files with different contents are kept in both versions.</source>
+        <source>Both versions of files with different contents are kept.</source>
         <translation>İçeriği farklı olan dosyaların iki sürümü de korunur.</translation>
     </message>
     <message>
@@ -1168,7 +1168,7 @@
         <translation>Bu dosyanın sürümleri listelenemiyor. Sunucudaki izinlerinizi denetleyin.</translation>
     </message>
     <message>
-        <source>The answer of the server could not be understood. Update Lumivo Drive and try again.</source>
+        <source>The server&apos;s response could not be understood. Update Lumivo Drive and try again.</source>
         <translation>Sunucunun yanıtı anlaşılamadı. Lumivo Drive uygulamasını güncelleyip yeniden deneyin.</translation>
     </message>
     <message>
@@ -1180,7 +1180,7 @@
         <translation>Bağlantı noktası</translation>
     </message>
     <message>
-        <source>Another server was found at this address</source>
+        <source>A different server was found at this address</source>
         <translation>Bu adreste başka bir sunucu bulundu</translation>
     </message>
     <message>
@@ -1188,7 +1188,7 @@
         <translation>Temmuz</translation>
     </message>
     <message>
-        <source>Some files that have to be updated are in use.</source>
+        <source>Some files that need to be updated are in use.</source>
         <translation>Güncellenmesi gereken bazı dosyalar kullanımda.</translation>
     </message>
     <message>
@@ -1205,7 +1205,7 @@
     </message>
     <message>
         <source>A newer version of Lumivo Drive is already installed on this computer. Remove it before you install this version.</source>
-        <translation>Bu bilgisayarda Lumivo Drive uygulamasının daha yeni bir sürümü zaten yüklü. Bu sürümü yüklemeden önce onu kaldırın.</translation>
+        <translation>Bu bilgisayarda Lumivo Drive uygulamasının daha yeni bir sürümü zaten yüklü. Bu sürümü yüklemeden önce daha yeni sürümü kaldırın.</translation>
     </message>
     <message>
         <source>Welcome</source>
@@ -1228,8 +1228,8 @@
         <translation>Erişimi kısıtla</translation>
     </message>
     <message>
-        <source>The setup program installs Lumivo Drive on this computer. Click Next to continue or Cancel to leave the setup.</source>
-        <translation>Kurulum programı Lumivo Drive uygulamasını bu bilgisayara yükler. Devam etmek için İleri’ye, kurulumdan çıkmak için İptal’e tıklayın.</translation>
+        <source>Setup will install Lumivo Drive on this computer. Click Next to continue or Cancel to exit Setup.</source>
+        <translation>Kurulum programı, Lumivo Drive uygulamasını bu bilgisayara yükleyecek. Devam etmek için İleri’ye, kurulumdan çıkmak için İptal’e tıklayın.</translation>
     </message>
     <message>
         <source>Enter the address of your server or its ZephLink ID, your username and your password.</source>
@@ -1240,7 +1240,7 @@
         <translation>“%1” klasörü oluşturulamadı. Klasörün yolunu ve izinlerinizi denetleyin.</translation>
     </message>
     <message>
-        <source>The setup ended because of an error.\nYour computer has not been changed.</source>
+        <source>Setup ended because of an error.\nYour computer has not been changed.</source>
         <translation>Kurulum bir hata nedeniyle sona erdi.\nBilgisayarınızda hiçbir değişiklik yapılmadı.</translation>
     </message>
     <message>
@@ -1252,7 +1252,7 @@
         <translation>Klasör filtresi</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate could not be verified. Check it in the connection settings.</source>
         <translation>Sunucunuzun sertifikası doğrulanamadı. Bağlantı ayarlarında sertifikayı denetleyin.</translation>
     </message>
     <message>
@@ -1268,7 +1268,7 @@
         <translation>Dosya aynı anda iki yerde değiştirildi. İki sürüm de korundu. Gereksinim duymadığınız sürümü silin.</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed. Check it in the connection settings.</source>
+        <source>Your server&apos;s certificate has changed. Check it in the connection settings.</source>
         <translation>Sunucunuzun sertifikası değişti. Bağlantı ayarlarında sertifikayı denetleyin.</translation>
     </message>
     <message>
@@ -1296,8 +1296,8 @@
         <translation>Lumivo Drive uygulamasını bu bilgisayardan kaldırmayı seçtiniz.</translation>
     </message>
     <message>
-        <source>Changes on a network drive cannot be watched. Select a folder on a local disk.</source>
-        <translation>Ağ sürücüsündeki değişiklikler izlenemez. Yerel diskteki bir klasörü seçin.</translation>
+        <source>Changes on a network drive cannot be detected. Select a folder on a local disk.</source>
+        <translation>Ağ sürücüsündeki değişiklikler algılanamaz. Yerel diskte bir klasör seçin.</translation>
     </message>
     <message>
         <source>A folder with this name already exists. Enter another name.</source>
@@ -1428,8 +1428,8 @@
         <translation>Lumivo Drive uygulamasını bağlam menüsünde göster</translation>
     </message>
     <message>
-        <source>Lumivo Drive is too old. Update it on this computer.</source>
-        <translation>Lumivo Drive çok eski. Bu bilgisayarda güncelleyin.</translation>
+        <source>This version of Lumivo Drive is too old. Update it on this computer.</source>
+        <translation>Bu Lumivo Drive sürümü çok eski. Bu bilgisayarda güncelleyin.</translation>
     </message>
     <message>
         <source>This folder cannot be synced. Select another folder.</source>
@@ -1596,7 +1596,7 @@
         <translation>Değer</translation>
     </message>
     <message>
-        <source>You are not signed in as an administrator. Lumivo Drive will only be installed for you.\nDo you want to continue?</source>
+        <source>You are not signed in as an administrator. Lumivo Drive will be installed only for you.\nDo you want to continue?</source>
         <translation>Yönetici olarak oturum açmadınız. Lumivo Drive yalnızca sizin için yüklenecek.\nDevam etmek istiyor musunuz?</translation>
     </message>
     <message>
@@ -1604,7 +1604,7 @@
         <translation>Dosya hizmeti kapalı olduğundan paylaşım bağlantısı oluşturulamıyor. Yöneticinizden hizmeti açmasını isteyin.</translation>
     </message>
     <message>
-        <source>Close the applications and try to start them again afterwards</source>
+        <source>Close the applications and try to restart them afterward</source>
         <translation>Uygulamaları kapat ve sonra yeniden başlatmayı dene</translation>
     </message>
     <message>
@@ -1656,7 +1656,7 @@
         <translation>Bu klasörü eşitleme dışında bırak</translation>
     </message>
     <message>
-        <source>The certificate of your server has changed.\nContinue only if you know why.</source>
+        <source>Your server&apos;s certificate has changed.\nContinue only if you know why.</source>
         <translation>Sunucunuzun sertifikası değişti.\nYalnızca nedenini biliyorsanız devam edin.</translation>
     </message>
     <message>
@@ -1684,15 +1684,15 @@
         <translation>Az önce</translation>
     </message>
     <message>
-        <source>The setup program is ready to repair Lumivo Drive.</source>
-        <translation>Kurulum programı Lumivo Drive uygulamasını onarmaya hazır.</translation>
+        <source>Setup is ready to repair Lumivo Drive.</source>
+        <translation>Kurulum programı, Lumivo Drive uygulamasını onarmaya hazır.</translation>
     </message>
     <message>
         <source>You can only read this folder. Changes on this computer will not be uploaded.</source>
         <translation>Bu klasörü yalnızca okuyabilirsiniz. Bu bilgisayardaki değişiklikler karşıya yüklenmez.</translation>
     </message>
     <message>
-        <source>You have no access to this folder. Ask your administrator for permission.</source>
+        <source>You do not have access to this folder. Ask your administrator for permission.</source>
         <translation>Bu klasöre erişiminiz yok. Yöneticinizden izin isteyin.</translation>
     </message>
     <message>
@@ -1704,11 +1704,11 @@
         <translation>Dosyalarınız eşitleniyor. Bu sırada çalışmaya devam edebilirsiniz.</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified.\nContinue only if you trust this network.</source>
+        <source>Your server&apos;s certificate could not be verified.\nContinue only if you trust this network.</source>
         <translation>Sunucunuzun sertifikası doğrulanamadı.\nYalnızca bu ağa güveniyorsanız devam edin.</translation>
     </message>
     <message>
-        <source>Files still to sync: %1</source>
+        <source>Files left to sync: %1</source>
         <translation>Eşitlenecek dosya sayısı: %1</translation>
     </message>
     <message>
@@ -1732,8 +1732,8 @@
         <translation>Eşitleme klasörünüz</translation>
     </message>
     <message>
-        <source>The certificate of your server could not be verified. Ask your administrator for a valid one.</source>
-        <translation>Sunucunuzun sertifikası doğrulanamadı. Yöneticinizden geçerli bir sertifika isteyin.</translation>
+        <source>Your server&apos;s certificate could not be verified. Ask your administrator to install a valid one.</source>
+        <translation>Sunucunuzun sertifikası doğrulanamadı. Yöneticinizden geçerli bir sertifika yüklemesini isteyin.</translation>
     </message>
     <message>
         <source>The server has been replaced. Link this computer again.</source>
@@ -1776,7 +1776,7 @@
         <translation>Yerel dosyalardaki simgeler</translation>
     </message>
     <message>
-        <source>No action available</source>
+        <source>No actions available</source>
         <translation>Kullanılabilir eylem yok</translation>
     </message>
     <message>
@@ -1796,11 +1796,11 @@
         <translation>Devre dışı</translation>
     </message>
     <message>
-        <source>Your server is still indexing &quot;%1&quot;. It can be synced afterwards.</source>
-        <translation>Sunucunuz hâlâ “%1” klasörünü dizinliyor. Klasör bundan sonra eşitlenebilir.</translation>
+        <source>Your server is still indexing &quot;%1&quot;. You can sync it when indexing is complete.</source>
+        <translation>Sunucunuz “%1” klasörünü hâlâ dizinliyor. Dizinleme tamamlandığında klasörü eşitleyebilirsiniz.</translation>
     </message>
     <message>
-        <source>When a file was changed in two places</source>
+        <source>When a file has been changed in two places</source>
         <translation>Bir dosya iki yerde değiştirildiğinde</translation>
     </message>
     <message>
@@ -1812,11 +1812,11 @@
         <translation>Klasörü değiştir</translation>
     </message>
     <message>
-        <source>Sync your home folder with the recommended settings.</source>
-        <translation>Ana klasörünüzü önerilen ayarlarla eşitleyin.</translation>
+        <source>Sync your home folder using the recommended settings.</source>
+        <translation>Ana klasörünüzü önerilen ayarları kullanarak eşitleyin.</translation>
     </message>
     <message>
-        <source>Loading the folders...</source>
+        <source>Loading folders...</source>
         <translation>Klasörler yükleniyor…</translation>
     </message>
     <message>
@@ -1832,7 +1832,7 @@
         <translation>Lumivo Drive yüklenmeye hazır</translation>
     </message>
     <message>
-        <source>Run the setup program again whenever you want to install Lumivo Drive.</source>
+        <source>Run Setup again whenever you want to install Lumivo Drive.</source>
         <translation>Lumivo Drive uygulamasını yüklemek istediğinizde kurulum programını yeniden çalıştırın.</translation>
     </message>
     <message>
@@ -1876,8 +1876,8 @@
         <translation>İndiriliyor…</translation>
     </message>
     <message>
-        <source>The new language is used after the next start of Lumivo Drive.</source>
-        <translation>Yeni dil, Lumivo Drive bir sonraki kez başlatıldığında kullanılır.</translation>
+        <source>The new language takes effect the next time Lumivo Drive starts.</source>
+        <translation>Yeni dil, Lumivo Drive yeniden başlatıldığında geçerli olur.</translation>
     </message>
     <message>
         <source>Installing Lumivo Drive</source>
@@ -1892,7 +1892,7 @@
         <translation>Hızlı kurulum çoğu kullanıcıya uygundur. Her şeyi daha sonra değiştirebilirsiniz.</translation>
     </message>
     <message>
-        <source>The disk of your server is full.</source>
+        <source>Your server&apos;s disk is full.</source>
         <translation>Sunucunuzun diski dolu.</translation>
     </message>
     <message>

@@ -7,19 +7,17 @@
 #include <QProcess>
 #include <QXmlStreamReader>
 #include <array>
-#include <string>
 #include <vector>
 
+#include "bundle-layout.h"
 #include "mac/launch-services.h"
+#include "own-time-zone.h"
 
 extern char** environ;
 
 namespace {
 
-constexpr char kRegistrationTool[] =
-    "/System/Library/Frameworks/CoreServices.framework/Frameworks/LaunchServices.framework/Support/"
-    "lsregister";
-constexpr int kToolMissing = -2;  // as QProcess::execute says it
+constexpr int kToolMissing = -2;  // as QProcess::execute reports it
 
 // The text of the string that follows the key in a property list; empty when there is none.
 QString PropertyOf(const QString& list, const QString& key) {
@@ -37,11 +35,11 @@ QString PropertyOf(const QString& list, const QString& key) {
   return QString();
 }
 
-QString ExecutableOf(const QString& bundle) {
-  QString name = PropertyOf(bundle + QStringLiteral("/Contents/Info.plist"),
-                            QStringLiteral("CFBundleExecutable"));
-  if (name.isEmpty()) name = QStringLiteral("lumivo-drive-ui");
-  return bundle + QStringLiteral("/Contents/MacOS/") + name;
+QString ProgramOf(const QString& bundle) {
+  const QString name =
+      PropertyOf(bundle + QLatin1String(kPropertyList), QStringLiteral("CFBundleExecutable"));
+  return bundle + (name.isEmpty() ? QLatin1String(kClientProgram)
+                                  : QStringLiteral("/Contents/MacOS/") + name);
 }
 
 // Owns what posix_spawn is told about the new process.
@@ -63,10 +61,9 @@ struct SpawnPlan {
 
 // What the launcher was started with.
 std::vector<char*> EnvironmentForClient() {
-  const std::string own = std::string("TZ=") + kOwnTimeZone;
   std::vector<char*> variables;
   for (char** variable = environ; *variable != nullptr; ++variable) {
-    if (*variable != own) variables.push_back(*variable);
+    if (!IsOwnTimeZone(*variable)) variables.push_back(*variable);
   }
   variables.push_back(nullptr);
   return variables;
@@ -80,6 +77,8 @@ bool StartDetached(const QByteArray& program) {
   for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
     posix_spawn_file_actions_addopen(&plan.files, fd, "/dev/null", O_RDWR, 0);
   }
+  // Our caller's descriptors too: a lock that it holds must not last as long as the client.
+  posix_spawn_file_actions_addclosefrom_np(&plan.files, STDERR_FILENO + 1);
   sigset_t none;
   sigset_t all;
   sigemptyset(&none);
@@ -105,5 +104,5 @@ int UnregisterBundle(const QString& bundle) {
 }
 
 bool OpenBundle(const QString& bundle) {
-  return StartDetached(ExecutableOf(bundle).toUtf8());
+  return StartDetached(ProgramOf(bundle).toUtf8());
 }
