@@ -201,10 +201,10 @@ TEST_F(LoggerTest, RotatesAfterTheLineThatCrossesTheLimit) {
 
   Write(kLimit);
   Logger::ReloadLogFile();  // counts from 0 again
-  Write(kLimit - 16);
-  EXPECT_EQ(CurrentSize(), 2 * kLimit - 16);
+  Write(kLimit);
+  EXPECT_EQ(CurrentSize(), 2 * kLimit);
   Write(17);
-  EXPECT_EQ(RotatedSize(), 2 * kLimit + 1);
+  EXPECT_EQ(RotatedSize(), 2 * kLimit + 17);
   EXPECT_EQ(CurrentSize(), 0U);
 }
 
