@@ -32,8 +32,8 @@ except ImportError:
 
 # Trees of 380 and 697 MB, in MB and in seconds of a processor: level 12 gives 130 and 169 in 14 and
 # 27, 15 gives 129 and 167 in 44 and 88, 17 gives 121 and 157 in 85 and 182, 19 gives 117 and 152 in
-# 117 and 272; deflate's 9 gives 138 and 199 in 42 and 101. Many download what is packed once. 22 and
-# matches over long distances give no less, and readers at 19 need no more than 8 MiB.
+# 117 and 272; deflate's 9 gives 138 and 199 in 42 and 101. Many download what is packed once. 22
+# and matches over long distances give no less, and at 19 a reader needs no more than 8 MiB.
 ZSTANDARD_LEVEL = 19
 DEFLATE_LEVEL = 9
 # A frame of no bytes, which readers skip. libarchive (3.6) takes a file for cut short when its data
