@@ -43,8 +43,9 @@ class Libraries(Case):
         self.put_package(3487)
         self.run_launcher(LD_DEBUG="libs", LD_DEBUG_OUTPUT=self.folder / "loaded")
         told = "".join(path.read_text() for path in self.folder.glob("loaded.*"))
-        loaded = {pathlib.Path(path) for path in re.findall("calling init: (.*)", told)}
-        inside = {path for path in loaded if self.bundle in path.parents}
+        frameworks = (self.bundle / "Contents/Frameworks").resolve()
+        loaded = {pathlib.Path(path).resolve() for path in re.findall("calling init: (.*)", told)}
+        inside = {path for path in loaded if frameworks in path.parents}
         self.assertIn("libqoffscreen.so", {path.name for path in inside})
         outside = {path.name for path in loaded - inside}
         self.assertEqual({name for name in outside if not GLIBC.fullmatch(name)}, set())
