@@ -1,4 +1,4 @@
-"""The bundle itself: whether it is closed, what its property list says, and how scripts/ship signs it on a Mac."""
+"""The bundle: whether it is closed, what its property list says, how scripts/ship signs it."""
 
 import filecmp
 import pathlib
@@ -19,7 +19,7 @@ GLIBC = re.compile(r"(ld-linux-.*|lib(c|m|dl|pthread|rt|resolv))\.so\.\d")
 
 
 def dynamic_section(path):
-    """The entries of an ELF file that say what it loads, and from where: pairs of kind and value."""
+    """The entries of an ELF file that say what it loads, and from where: (kind, value) pairs."""
     output = subprocess.run(["readelf", "-d", path], check=True, capture_output=True, text=True)
     return re.findall(r"\((NEEDED|RPATH|RUNPATH)\).*\[(.*)\]", output.stdout)
 
@@ -76,8 +76,8 @@ class PropertyList(unittest.TestCase):
         self.assertTrue((contents / "Resources" / self.properties["CFBundleIconFile"]).is_file())
 
 
-# Each stands in for the tool of its name, and notes how it was called. cmake installs a small bundle, hdiutil makes a
-# file; one that the test names fails, and those that macOS does not have always do.
+# Each stands in for the tool of its name, and notes how it was called. cmake installs a small
+# bundle, hdiutil makes a file; one that the test names fails, and what macOS lacks always does.
 STAND_IN = """#!/bin/sh
 name=${0##*/}
 case $name in
@@ -94,9 +94,9 @@ case "$name $1" in
     app=$4/Lumivo.app
     mkdir -p "$app/log" "$app/Contents/MacOS" "$app/Contents/Frameworks/plugins/platforms"
     mkdir -p "$app/Contents/Frameworks/Qt.framework/Versions/5"
-    for file in MacOS/lumivo-launcher Frameworks/plugins/platforms/libq.dylib Frameworks/Qt.framework/Versions/5/Qt; do
-      echo >"$app/Contents/$file"
-    done ;;
+    echo >"$app/Contents/MacOS/lumivo-launcher"
+    echo >"$app/Contents/Frameworks/plugins/platforms/libq.dylib"
+    echo >"$app/Contents/Frameworks/Qt.framework/Versions/5/Qt" ;;
   "hdiutil create") for image; do :; done; ls "$5" >"$image" ;;
 esac
 """
@@ -136,7 +136,7 @@ class Ship(unittest.TestCase):
         (self.folder / "Client.app").mkdir()
 
     def ship(self, failing="", **settings):
-        """Runs scripts/ship as on a Mac; returns its exit status, and how it called the tools but cmake."""
+        """Runs scripts/ship as on a Mac; returns its status, and what it called but for cmake."""
         calls = self.folder / "calls"
         calls.write_text("")
         environment = {"PATH": f"{self.folder}/tools:/usr/bin:/bin", "CALLS": str(calls)}
