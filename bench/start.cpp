@@ -1,9 +1,9 @@
-// bench-start KIND PLUGINS CLIENT: what a start of the launcher is compared with. KIND is
-//   same        the launcher's own toolkit calls in their order: application, one catalog, worker
-//   thread, a dialog that
-//               stays hidden, detached start of CLIENT by the worker, end of the event loop
-//   bare        an application that starts CLIENT
-//   translator  an application with a translator, which starts CLIENT too
+// bench-start KIND CONTENTS CLIENT: what a start of the launcher is compared with. CONTENTS is the
+// folder of that name in the launcher's bundle, for Qt's plug-ins and the picture. KIND is
+//
+//   same   the launcher's own Qt calls in their order: application, one catalog, worker thread, a
+//          dialog that stays hidden, detached start of CLIENT by the worker, end of the event loop
+//   bare   an application that starts CLIENT
 
 #include <QApplication>
 #include <QFont>
@@ -16,6 +16,7 @@
 #include <clocale>
 #include <cstdio>
 #include <memory>
+#include <string>
 
 namespace {
 
@@ -28,15 +29,14 @@ int StartClient(const QString& client) {
 }
 
 // The dialog as the launcher makes it; it is never shown.
-std::unique_ptr<QProgressDialog> MakeDialog() {
+std::unique_ptr<QProgressDialog> MakeDialog(const QString& contents) {
   const auto text = [](const char* source) {
     return QCoreApplication::translate("global", source);
   };
   auto dialog = std::make_unique<QProgressDialog>(nullptr, Qt::WindowFlags());
   const QFont font(QStringLiteral("Arial"), -1, -1, false);
   dialog->setWindowTitle(text("Lumivo Drive"));
-  dialog->setWindowIcon(
-      QIcon(QCoreApplication::applicationDirPath() + QStringLiteral("/icon.png")));
+  dialog->setWindowIcon(QIcon(contents + QStringLiteral("/Resources/images/ico_72_lumivo.png")));
   dialog->setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
   dialog->setValue(0);
   dialog->setRange(0, 100);
@@ -52,14 +52,14 @@ std::unique_ptr<QProgressDialog> MakeDialog() {
   return dialog;
 }
 
-int StartAsTheLauncherDoes(const QString& client) {
+int StartAsTheLauncherDoes(const QString& contents, const QString& client) {
   QTranslator translator;
   InstallCatalog(&translator);
 
   QThread thread;
   QObject worker;
   worker.moveToThread(&thread);
-  const auto dialog = MakeDialog();
+  const auto dialog = MakeDialog(contents);
   thread.start(QThread::InheritPriority);
 
   int result = 1;
@@ -81,18 +81,15 @@ int StartAsTheLauncherDoes(const QString& client) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 4) {
-    fprintf(stderr, "usage: bench-start same|bare|translator PLUGINS CLIENT\n");
+  const std::string kind = argc == 4 ? argv[1] : "";
+  if (kind != "same" && kind != "bare") {
+    fprintf(stderr, "usage: bench-start same|bare CONTENTS CLIENT\n");
     return 2;
   }
   setlocale(LC_ALL, "");
-  const QString kind = QString::fromUtf8(argv[1]);
+  const QString contents = QString::fromUtf8(argv[2]);
   const QString client = QString::fromUtf8(argv[3]);
-  QCoreApplication::setLibraryPaths({QString::fromUtf8(argv[2])});
+  QCoreApplication::setLibraryPaths({contents + QStringLiteral("/Frameworks/plugins")});
   QApplication app(argc, argv);
-  if (kind == QLatin1String("same")) return StartAsTheLauncherDoes(client);
-
-  QTranslator translator;
-  if (kind == QLatin1String("translator")) InstallCatalog(&translator);
-  return StartClient(client);
+  return kind == "same" ? StartAsTheLauncherDoes(contents, client) : StartClient(client);
 }

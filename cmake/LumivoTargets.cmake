@@ -1,4 +1,5 @@
-# How every target of this tree is made: C++17, our warnings, one source file per host where a layer hides one.
+# How every target of this tree is made: C++17, our warnings, one source file per host where a layer
+# hides one.
 
 include_guard(GLOBAL)
 
@@ -17,8 +18,8 @@ function(lumivo_qt target)
                       QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_STRICT_ITERATORS)
 endfunction()
 
-# lumivo_library(TARGET ALIAS [QT] SOURCE...): a static library Lumivo::ALIAS. With QT it is one of the interface's, whose
-# headers lie beside its sources; the headers of the others lie in include/.
+# lumivo_library(TARGET ALIAS [QT] SOURCE...): a static library Lumivo::ALIAS. With QT it is one of
+# the interface's, whose headers lie beside its sources; the headers of the others lie in include/.
 function(lumivo_library target alias)
   cmake_parse_arguments(PARSE_ARGV 2 arg "QT" "" "")
   add_library(${target} STATIC ${arg_UNPARSED_ARGUMENTS})
@@ -33,8 +34,8 @@ function(lumivo_library target alias)
   endif()
 endfunction()
 
-# lumivo_host_source(TARGET BASE): adds BASE-mac.cpp on macOS, elsewhere BASE-linux.cpp where there is one, or else
-# BASE-posix.cpp.
+# lumivo_host_source(TARGET BASE): adds BASE-mac.cpp on macOS, elsewhere BASE-linux.cpp where there
+# is one, or else BASE-posix.cpp.
 function(lumivo_host_source target base)
   set(host posix)
   if(APPLE)

@@ -2,9 +2,9 @@
 
 include_guard(GLOBAL)
 
-# lumivo_qt_plugins(RESULT): each as FOLDER/TARGET, for the target Qt5::TARGET, whose file belongs into the plug-in folder
-# FOLDER. A dialog without input fields needs a platform and nothing else: no OpenGL, no input methods, and no image
-# formats beyond Qt's own.
+# lumivo_qt_plugins(RESULT): each as FOLDER/TARGET, for the target Qt5::TARGET, whose file belongs
+# into the plug-in folder FOLDER. A dialog without input fields needs a platform and nothing else:
+# no OpenGL, no input methods, and no image formats beyond Qt's own.
 function(lumivo_qt_plugins result)
   if(APPLE)
     set(plugins platforms/QCocoaIntegrationPlugin platforms/QOffscreenIntegrationPlugin styles/QMacStylePlugin)

@@ -1,10 +1,11 @@
-# Closes an installed bundle: copies every library that it loads into Contents/Frameworks, and has them found there.
-# Runs at install time, with the tools for macOS in `otool`, `install_name_tool` and `codesign` where there are any, and
-# the oldest system that the bundle starts on in `macos_minimum`.
+# Closes an installed bundle: copies every library that it loads into Contents/Frameworks, and has
+# them found there. Runs at install time, with the tools for macOS in `otool`, `install_name_tool`
+# and `codesign` where there are any, and the oldest system that the bundle starts on in
+# `macos_minimum`.
 #
-# On Linux the executable's DT_RPATH leads to all of them, and whatever paths they have of their own, which would hide it,
-# are removed. On macOS each file names the places of the libraries that it loads; these are rewritten, and since that
-# breaks signatures, each file gets one of its own.
+# On Linux the executable's DT_RPATH leads to all of them, and whatever paths they have of their
+# own, which would hide it, are removed. On macOS each file names the places of the libraries that
+# it loads; these are rewritten, and since that breaks signatures, each file gets one of its own.
 
 cmake_policy(VERSION 3.25)
 
@@ -13,8 +14,9 @@ set(platform_libraries
     "^ld-linux" "^lib(c|m|mvec|dl|pthread|rt|resolv|util|nsl|anl|thread_db|BrokenLocale|nss_[a-z]+)\\.so\\."
     "^/usr/lib/" "^/System/")
 
-# lumivo_close_bundle(CONTENTS EXECUTABLE PLUGINS): EXECUTABLE and PLUGINS are the files that were installed into CONTENTS,
-# at the places that they came from: their libraries are looked for from there.
+# lumivo_close_bundle(CONTENTS EXECUTABLE PLUGINS): EXECUTABLE and PLUGINS are the files that were
+# installed into CONTENTS, at the places that they came from: their libraries are looked for from
+# there.
 function(lumivo_close_bundle contents executable plugins)
   cmake_path(ABSOLUTE_PATH contents NORMALIZE)
   if(otool)
@@ -37,7 +39,8 @@ function(lumivo_close_bundle contents executable plugins)
     endforeach()
     return()
   endif()
-  # Beside its bundle the executable is signed as a plain file. Inside, it would stand for the whole bundle.
+  # Beside its bundle the executable is signed as a plain file. Inside, it would stand for the whole
+  # bundle.
   cmake_path(GET executable FILENAME name)
   cmake_path(SET outside NORMALIZE "${contents}/../../${name}.closing")
   file(RENAME "${contents}/MacOS/${name}" "${outside}")
@@ -49,7 +52,8 @@ function(lumivo_close_bundle contents executable plugins)
   file(RENAME "${outside}" "${contents}/MacOS/${name}")
 endfunction()
 
-# A library by the name that it is loaded by; a framework with its links and without what only building needs.
+# A library by the name that it is loaded by; a framework with its links and without what only
+# building needs.
 function(lumivo_copy_library library frameworks)
   cmake_path(GET library FILENAME name)
   if(library MATCHES "^(.*/([^/]+\\.framework))/")

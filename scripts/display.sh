@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# A display for windows, and pictures of the launcher's dialog on it: to be sourced. Run, it gives a command a display
-# of its own:
+# A display for windows, and pictures of the launcher's dialog on it: to be sourced. Run, it gives a
+# command a display of its own:
 #   scripts/display.sh COMMAND...
 
-# Makes sure that there is a display: Xvfb with a window manager, WIDTH x HEIGHT, where DISPLAY names none. Their process
-# ids are added to `started`, for the caller to end.
+# Makes sure that there is a display: Xvfb with a window manager, WIDTH x HEIGHT, where DISPLAY
+# names none. Their process ids are added to `started`, for the caller to end.
 start_display() { # WIDTH HEIGHT
   [[ -z ${DISPLAY:-} ]] || return 0
   local pipe number
@@ -38,7 +38,8 @@ picture_dialog() { # FILE
   import -window "${picture_of:-$(dialog_window)}" "$1"
 }
 
-# Takes such pictures until the dialog has gone, and keeps the one in the middle of those that differ.
+# Takes such pictures until the dialog has gone, and keeps the one in the middle of those that
+# differ.
 film_dialog() { # FILE
   local frames=("") last=
   wait_for_dialog || return 1

@@ -1,7 +1,8 @@
-# Lets a tree that is configured for macOS use the libraries of this Linux host: their headers as they are, and in place
-# of each library a Mach-O one that exports the same names and does nothing. They lie below brew/ as Homebrew would have
-# them, and load each other in the ways that are found there. What links against them has no name left undefined, and
-# what copies them into a bundle has real files to work on.
+# Lets a tree that is configured for macOS use the libraries of this Linux host: their headers as
+# they are, and in place of each library a Mach-O one that exports the same names and does nothing.
+# They lie below brew/ as Homebrew would have them, and load each other in the ways that are found
+# there. What links against them has no name left undefined, and what copies them into a bundle has
+# real files to work on.
 
 # The C library's headers lie beside those that are wanted, and would hide those of macOS.
 set(headers "${CMAKE_BINARY_DIR}/include")
@@ -51,8 +52,9 @@ function(lumivo_framework result name symbols)
   set(${result} "${here}/Versions/5/${name}" PARENT_SCOPE)
 endfunction()
 
-# lumivo_dylib(RESULT NAME SYMBOLS): the library in a folder of its own. By its name it is a link, as most are. ICU's find
-# each other beside them, libarchive finds one of its own by a run path, and OpenGL is the system's.
+# lumivo_dylib(RESULT NAME SYMBOLS): the library in a folder of its own. By its name it is a link,
+# as most are. ICU's find each other beside them, libarchive finds one of its own by a run path, and
+# OpenGL is the system's.
 function(lumivo_dylib result name symbols)
   set(opt "${CMAKE_BINARY_DIR}/brew/opt")
   set(folder "${opt}/${name}/lib")
@@ -76,7 +78,8 @@ function(lumivo_dylib result name symbols)
   set(${result} "${folder}/${name}.1.dylib" PARENT_SCOPE)
 endfunction()
 
-# lumivo_stub(TARGET): puts a Mach-O library in the place of the imported one, after those that it depends on.
+# lumivo_stub(TARGET): puts a Mach-O library in the place of the imported one, after those that it
+# depends on.
 function(lumivo_stub target)
   get_target_property(library ${target} LOCATION)
   get_target_property(type ${target} TYPE)

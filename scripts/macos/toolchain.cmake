@@ -1,4 +1,5 @@
-# Cross-compiles for macOS on Linux, for scripts/check-macos, which gives the processor as CMAKE_SYSTEM_PROCESSOR.
+# Cross-compiles for macOS on Linux, for scripts/check-macos, which gives the processor as
+# CMAKE_SYSTEM_PROCESSOR.
 
 set(CMAKE_SYSTEM_NAME Darwin)
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES CMAKE_SYSTEM_PROCESSOR CMAKE_OSX_DEPLOYMENT_TARGET)

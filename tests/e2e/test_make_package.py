@@ -51,6 +51,7 @@ CLIENT = {
     RESOURCES + "a/b": file(b"1"),
     RESOURCES + "ü.txt": file(bytes(range(256)) * 4000),
     RESOURCES + "o\u0308.txt": file(b"decomposed"),
+    RESOURCES + "fills a reader's buffer": file(bytes(1 << 18)),
     RESOURCES + "empty": os.mkdir,
     RESOURCES + "loop": link("loop"),
     RESOURCES + "run me": file(b"#!", 0o755),

@@ -2,8 +2,6 @@
 
 #include <filesystem>
 #include <map>
-#include <set>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -43,32 +41,4 @@ inline Tree TreeOf(const std::string& root) {
     }
   }
   return tree;
-}
-
-/// Makes, below `root`, what a text lists: "d" a folder, "f=abc" a file, "l>x" a link.
-inline void BuildTree(const std::string& root, const std::string& text) {
-  std::istringstream words(text);
-  for (std::string word; words >> word;) {
-    const size_t mark = word.find_first_of("=>");
-    const std::string path = root + "/" + word.substr(0, mark);
-    if (mark == std::string::npos) {
-      std::filesystem::create_directories(path);
-    } else if (word[mark] == '>') {
-      std::filesystem::create_symlink(word.substr(mark + 1), path);
-    } else {
-      WriteFile(path, word.substr(mark + 1));
-    }
-  }
-}
-
-/// Lists everything below `root` in that way, sorted, folders with a "/" behind them.
-inline std::string ListTree(const std::string& root) {
-  std::set<std::string> words;
-  for (const auto& [name, node] : TreeOf(root)) {
-    const std::string mark = node == "folder" ? "/" : node[0] == 'f' ? "=" : ">";
-    words.insert(name + mark + (mark == "/" ? "" : node.substr(6)));
-  }
-  std::string text;
-  for (const std::string& word : words) text += (text.empty() ? "" : " ") + word;
-  return text;
 }

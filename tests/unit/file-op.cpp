@@ -1,5 +1,6 @@
 #include "file/file-op.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/resource.h>
@@ -8,13 +9,16 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <future>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "log.h"
+#include "owners.h"
 #include "support/temp-dir.h"
 #include "support/tree.h"
 
@@ -260,6 +264,16 @@ TEST_F(FileOp, CopyOverwritesWhatIsThereButNotItsOwnSource) {
   after["to"] = "file: abc";
   after["new"] = "file: ";
   EXPECT_EQ(TreeOf("."), after);
+}
+
+TEST_F(FileOp, CopyOpensNothingThatAStartedProgramInherits) {
+  ASSERT_EQ(mkfifo("pipe", 0600), 0);
+  auto copy = std::async(std::launch::async, [] { return FSCopy("pipe", "to", false); });
+  const Descriptor writer(open("pipe", O_WRONLY | O_CLOEXEC));  // waits for the copy to open it
+  const std::chrono::milliseconds moment(1);
+  while (!fs::exists("to") && copy.wait_for(moment) == std::future_status::timeout) continue;
+  EXPECT_EQ(CountInherited(dir_ / "pipe"), 0);
+  EXPECT_EQ(CountInherited(dir_ / "to"), 0);
 }
 
 TEST_F(FileOp, RenameMovesWithinAFileSystem) {

@@ -190,6 +190,7 @@ TEST(Logger, WritesWarningsToStandardErrorBeforeInitialize) {
 TEST_F(LoggerTest, RotatesAfterTheLineThatCrossesTheLimit) {
   WriteFile(log, "x");  // what was there before does not count
   Open(1);
+  EXPECT_EQ(CountInherited(log), 0);
   Write(kLimit - 100);
   Write(100);
   EXPECT_EQ(CurrentSize(), 1 + kLimit);
@@ -200,10 +201,10 @@ TEST_F(LoggerTest, RotatesAfterTheLineThatCrossesTheLimit) {
 
   Write(kLimit);
   Logger::ReloadLogFile();  // counts from 0 again
-  Write(kLimit - 16);
-  EXPECT_EQ(CurrentSize(), 2 * kLimit - 16);
+  Write(kLimit);
+  EXPECT_EQ(CurrentSize(), 2 * kLimit);
   Write(17);
-  EXPECT_EQ(RotatedSize(), 2 * kLimit + 1);
+  EXPECT_EQ(RotatedSize(), 2 * kLimit + 17);
   EXPECT_EQ(CurrentSize(), 0U);
 }
 

@@ -34,39 +34,6 @@ const Language kLanguages[] = {
     {"rus", "ru_RU"}, {"dan", "da_DK"}, {"nor", "nb_NO"}, {"sve", "sv_SE"}, {"nld", "nl_NL"},
     {"plk", "pl_PL"}, {"hun", "hu_HU"}, {"ptg", "pt_PT"}, {"trk", "tr_TR"}, {"csy", "cs_CZ"}};
 
-// What a language's glossary decides and a pattern can see. Of marks, what belongs to others.
-struct Wording {
-  const char* languages;
-  const char* avoided;
-  const char* instead;
-};
-
-const Wording kWordings[] = {
-    {"csy dan deu esn fra ita nld nor plk rus sve trk", R"(\.\.\.)", "the one character …"},
-    {"chs cht hun jpn krn ptb ptg", "…", "three dots"},
-    {"deu", "[^\u00a0]…", "a no-break space before …"},
-    {"fra", "[^\u202f][;:!?»]|«[^\u202f]", "a narrow no-break space inside « » and before ; : ! ?"},
-    {"chs ita krn nld ptb ptg trk", "[\"„«»「」]", "“these”"},
-    {"cht jpn", "[\"“”„«»]", "「these」"},
-    {"csy deu", "[\"”«»「]", "„these“"},
-    {"hun plk", "[\"“«»「]", "„these”"},
-    {"dan sve", "[\"“„«»]", "”these”"},
-    {"esn fra nor rus", "[\"“”„]", "«these»"},
-    {"fra ita nld trk", "'", "the apostrophe ’"},
-    {"rus", "[Ёё]", "е"},
-    {"plk", R"(ł[ae]ś\b)", "nothing that shows the gender of the reader"},
-    {"ptb ptg", R"(Bem-vind[oa])", "Boas-vindas, for men and women"},
-    {"ptb", "[Ff]icheiro|[Ee]crã", "arquivo, tela"},
-    {"ptg", R"([Aa]rquivo|\b[Tt]ela\b)", "ficheiro, ecrã"},
-    {"fra", "[Aa]uthentification", "ouverture de session"},
-    {"krn", "연결 해제", "연동 해제: to unlink is not to disconnect"},
-    {"csy", R"((?i)\b(instalac|verz|odebrán|oprav|spuštěn|aktualizac)\w* Lumivo)",
-     "aplikace before the name where it would need an ending"},
-    {"plk",
-     R"((?i)\b(\w*instal|wersj|usuni|napraw|uruchomieni|aktualizacj)\w* Lumivo|(dla|w) Lumivo)",
-     "aplikacja before the name where it would need an ending"},
-};
-
 // The dialog, page, menu or list that a row belongs to; a tab's name stands outside its page.
 const char kDialog[] =
     "^(msi_\\w+_dlg|msi_button|manage_(?:option|proxy|setting|share)|history|sharing|tray|session|"
@@ -88,8 +55,10 @@ QString Read(const QString& path) {
 QStringList Keys() {
   const QString table = Read(LUMIVO_STR_TABLE);
   QStringList keys;
-  for (auto row = QRegularExpression("Row\\(\\d+, \"(\\w+)").globalMatch(table); row.hasNext();)
+  auto row = QRegularExpression("Row\\(\\d+, \"(\\w+)").globalMatch(table);
+  while (row.hasNext()) {
     keys << row.next().captured(1);
+  }
   return keys;
 }
 
@@ -97,16 +66,21 @@ QStringList Keys() {
 QMap<QString, QString> Dates(const QLocale& locale) {
   const QLocale english("en_US");
   QMap<QString, QString> dates;
-  for (int i = 1; i <= 12; ++i)
+  for (int i = 1; i <= 12; ++i) {
     dates[english.standaloneMonthName(i)] = locale.standaloneMonthName(i);
-  for (int i = 1; i <= 7; ++i) dates[english.standaloneDayName(i)] = locale.standaloneDayName(i);
+  }
+  for (int i = 1; i <= 7; ++i) {
+    dates[english.standaloneDayName(i)] = locale.standaloneDayName(i);
+  }
   return dates;
 }
 
 TEST(Texts, AreFoundByKeyAndUnescapedAndFallBackToEnglish) {
   const QStringList keys = Keys();
   ASSERT_EQ(keys.size(), kRows);
-  for (int id = 0; id < kRows; ++id) EXPECT_EQ(StrTable::LookupStrID(keys[id].toUpper()), id);
+  for (int id = 0; id < kRows; ++id) {
+    EXPECT_EQ(StrTable::LookupStrID(keys[id].toUpper()), id);
+  }
   EXPECT_EQ(StrTable::LookupStrID("APP_NAME"), kTextAppName);
   EXPECT_EQ(StrTable::LookupStrID("app_name "), -1);
 
@@ -141,7 +115,9 @@ TEST(Texts, EveryLanguageIsChosenByItsLocale) {
 
 TEST(Texts, EveryCatalogTranslatesEveryTextOfTheTable) {
   QSet<QString> sources;
-  for (int id = 0; id < kRows; ++id) sources << StrTable::LoadStr(id).replace('\n', "\\n");
+  for (int id = 0; id < kRows; ++id) {
+    sources << StrTable::LoadStr(id).replace('\n', "\\n");
+  }
   EXPECT_EQ(sources.size(), kTexts);
 
   // Names, and words that a language took over as they are: a line "CODE TEXT" each.
@@ -160,8 +136,9 @@ TEST(Texts, EveryCatalogTranslatesEveryTextOfTheTable) {
       const QString text = catalog.translate("global", source.toUtf8());
       ASSERT_FALSE(text.isEmpty());
       EXPECT_EQ(text, text.trimmed());
-      for (const char* mark : {"%", "%1", "%2", "\\n", "\\t"})
+      for (const char* mark : {"%", "%1", "%2", "\\n", "\\t"}) {
         EXPECT_EQ(text.count(mark), source.count(mark)) << mark;
+      }
       if (dates.contains(source)) {
         EXPECT_EQ(text.toLower(), dates[source].toLower());
         continue;
@@ -190,18 +167,24 @@ TEST(Texts, OfOneDialogDifferInEveryLanguage) {
   }
 }
 
+// A glossary ends with what its language never writes: lines "- `PATTERN`: INSTEAD".
 TEST(Texts, KeepToTheGlossaries) {
+  const QRegularExpression never("^- `(.+)`: (.+)$", QRegularExpression::MultilineOption);
   for (const auto& [code, locale] : kLanguages) {
+    if (code == TavLocale::getStrLanguageFallSafe()) continue;
     const Catalog catalog(code);
-    for (const Wording& wording : kWordings) {
-      if (!QString(wording.languages).contains(code)) continue;
-      const QRegularExpression avoided(wording.avoided,
+    const QString glossary = Read(QStringLiteral(LUMIVO_CATALOGS "/%1.glossary.md").arg(code));
+    auto rule = never.globalMatch(glossary);
+    EXPECT_TRUE(rule.hasNext()) << code;
+    while (rule.hasNext()) {
+      const QRegularExpressionMatch match = rule.next();
+      const QRegularExpression pattern(match.captured(1),
                                        QRegularExpression::UseUnicodePropertiesOption);
-      ASSERT_TRUE(avoided.isValid()) << wording.avoided;
+      ASSERT_TRUE(pattern.isValid()) << code << ": " << qPrintable(pattern.pattern());
       for (int id = 0; id < kRows; ++id) {
-        EXPECT_FALSE(StrTable::LoadStr(id).contains(avoided))
+        EXPECT_FALSE(StrTable::LoadStr(id).contains(pattern))
             << code << ' ' << id << ": " << qPrintable(StrTable::LoadStr(id))
-            << "\ninstead: " << wording.instead;
+            << "\ninstead: " << qPrintable(match.captured(2));
       }
     }
   }
