@@ -280,7 +280,7 @@ class Case(unittest.TestCase):
         return wait_for(client, f"a client that runs alone; log:\n{self.log()}")[0]
 
     def end_clients(self):
-        """Ends the clients, also those that have only just been started, and their pid file."""
+        """Ends the clients and their pid file. One that was never waited for may be overlooked."""
         while clients := self.clients():
             for pid in clients:
                 try:
