@@ -98,7 +98,7 @@ def change_owner(folder, user):
 
 @functools.lru_cache
 def shared_bundle():
-    """The staged bundle, where every user can reach it."""
+    """The staged bundle, where every user can reach it. Nobody changes its files in place."""
     bundle = SHARED / "Lumivo.app"
     shutil.copytree(BUNDLE, bundle, symlinks=True, copy_function=link_or_copy)
     return bundle
@@ -186,12 +186,12 @@ class Case(unittest.TestCase):
             change_owner(self.temporary, user)
 
     def copy_bundle(self, name):
-        """A bundle without a package and with all log levels. What is large in it is shared."""
-        bundle, shared = self.folder / name, shared_bundle()
-        left_out = shutil.ignore_patterns("lumivo.lvp", "INFO", "Frameworks", "lumivo-launcher")
-        shutil.copytree(shared, bundle, symlinks=True, ignore=left_out)
-        (bundle / "Contents/Frameworks").symlink_to(shared / "Contents/Frameworks")
-        link_or_copy(shared / LAUNCHER, bundle / LAUNCHER)
+        """A bundle without a package and with all log levels; its other files are shared."""
+        bundle = self.folder / name
+        own = shutil.ignore_patterns("lumivo.lvp", "INFO", "launcher.debug")
+        shutil.copytree(
+            shared_bundle(), bundle, symlinks=True, ignore=own, copy_function=link_or_copy
+        )
         (bundle / "Contents/Resources/package").mkdir(exist_ok=True)
         (bundle / "log").mkdir(exist_ok=True)
         (bundle / "log/launcher.debug").write_text(ALL_LEVELS)
@@ -280,7 +280,7 @@ class Case(unittest.TestCase):
         return wait_for(client, f"a client that runs alone; log:\n{self.log()}")[0]
 
     def end_clients(self):
-        """Ends the clients, also those that have only just been started, and their pid file."""
+        """Ends the clients and their pid file. One that was never waited for may be overlooked."""
         while clients := self.clients():
             for pid in clients:
                 try:

@@ -59,6 +59,12 @@ class SweepCase(UpgradeCase):
         process.communicate(timeout=60)
         return process.returncode, list_of_calls.read_text().splitlines()
 
+    def calls_without_fault(self, sweep):
+        """The calls of a run that meets no fault."""
+        _, calls = self.meet_fault(sweep)
+        self.wait_for_client()
+        return calls
+
     def run_sweep(self, sweep):
         """Until a run makes fewer calls than the next one that is to be tried."""
         for number, error in zip(sweep.calls_to_try(), itertools.cycle(sweep.errors)):

@@ -4,7 +4,7 @@ import os
 import subprocess
 import time
 
-from support import ORDINARY_USER, alive
+from support import ORDINARY_USER, alive, wait_for
 from upgrade import INSTALLED, NEW, OLD, UpgradeCase
 
 MISSED = "[NOTE] mac/mac-service(%d): Failed to read pid file '"
@@ -55,3 +55,4 @@ class ClientStop(UpgradeCase):
                 self.run_launcher(user=ORDINARY_USER)
                 self.assert_logged(MISSED, INSTALLED)
                 self.assertEqual(self.build_on_disk(), NEW)
+                wait_for(self.clients, "the client")

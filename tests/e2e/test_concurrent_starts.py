@@ -79,7 +79,7 @@ class LockFile(SweepCase):
 
     def setUp(self):
         super().setUp()
-        _, calls = self.meet_fault(Sweep("open-w", "once", path=".lock"))
+        calls = self.calls_without_fault(Sweep("open-w", "once", path=".lock"))
         self.name = pathlib.Path(calls[0]).name
         self.held_by_this_test = f"{os.getpid()}\nlumivo-launcher\n{os.uname().nodename}\n".encode()
         self.begin()
