@@ -10,22 +10,6 @@
 
 #include "support/tree.h"
 
-#define LOG_UNIT "unit"
-#include "log.h"  // again: a file may have included it before it named itself
-
-namespace {
-
-std::string g_system_log;  // what would have reached it, each line with its priority
-
-}  // namespace
-
-extern "C" __attribute__((format(printf, 2, 0))) void vsyslog(int priority, const char* format,
-                                                              va_list args) {
-  char text[256];
-  vsnprintf(text, sizeof text, format, args);
-  g_system_log += std::to_string(priority) + " " + text;
-}
-
 namespace {
 
 using Entries = std::map<std::string, std::string>;
@@ -141,26 +125,17 @@ TEST_F(LoggerTest, WritesWhatTheComponentsLevelLetsThrough) {
   EXPECT_EQ(highest("silent"), 0);
   EXPECT_EQ(highest("hex"), 0);
   EXPECT_EQ(highest("minus"), 0);
-
-  WriteFile(dir / "levels", "silent=7\nmalformed line\n");
-  Open(50);
-  EXPECT_EQ(highest("default_component"), Logger::LEVEL_WARNING);
-  EXPECT_EQ(highest("chatty"), Logger::LEVEL_NOTE);
-  EXPECT_EQ(highest("silent"), 0);
 }
 
-TEST_F(LoggerTest, StampsEveryOutputButTheSystemLogWithTheLocalTime) {
+TEST_F(LoggerTest, StampsEveryOutputWithTheLocalTime) {
   setenv("TZ", "ABC-5:30", 1);
-  const auto write = [this](Logger::Type type) {
-    ASSERT_EQ(Logger::Initialize(type, log, "", 50), 0);
-    Logger::LogMsg(Logger::LEVEL_WARNING, kComponent, "no end %d", 2);
-  };
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
   const time_t before = time(nullptr);
-  write(Logger::TYPE_STDOUT);
-  write(Logger::TYPE_STDERR);
-  write(Logger::TYPE_FILE);
+  for (const auto type : {Logger::TYPE_STDOUT, Logger::TYPE_STDERR, Logger::TYPE_FILE}) {
+    ASSERT_EQ(Logger::Initialize(type, log, "", 50), 0);
+    Logger::LogMsg(Logger::LEVEL_WARNING, kComponent, "no end %d", 2);
+  }
   std::set<std::string> possible;
   for (time_t shifted = before + 19800; shifted <= time(nullptr) + 19800; ++shifted) {
     char text[64] = "";
@@ -172,19 +147,6 @@ TEST_F(LoggerTest, StampsEveryOutputButTheSystemLogWithTheLocalTime) {
   for (const std::string& text : {out, err, ReadFile(log)}) {
     EXPECT_EQ(possible.count(text), 1U) << text;
   }
-
-  write(Logger::TYPE_SYSLOG);
-  EXPECT_EQ(g_system_log, "3 no end 2") << "no time, and one priority for all levels";
-}
-
-TEST(Logger, WritesWarningsToStandardErrorBeforeInitialize) {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");  // a new process, where nothing was initialised
-  const auto log = [] {
-    LOG_NOTE(kComponent, "dropped\n");
-    LOG_WARNING(kComponent, "written\n");
-    exit(0);
-  };
-  EXPECT_EXIT(log(), testing::ExitedWithCode(0), "^.{16}.WARNING. unit.[0-9]+.: written\n$");
 }
 
 TEST_F(LoggerTest, RotatesAfterTheLineThatCrossesTheLimit) {
@@ -208,54 +170,13 @@ TEST_F(LoggerTest, RotatesAfterTheLineThatCrossesTheLimit) {
   EXPECT_EQ(CurrentSize(), 0U);
 }
 
-TEST_F(LoggerTest, WorksWithoutTheCountsThatWritersShare) {
-  Open(50);
-  Logger::DestroySharedData();
-  EXPECT_EQ(Logger::Rotate(), 0);
-  EXPECT_EQ(TreeOf(dir.path), (Tree{{"log", "file: "}, {"log_0", "file: "}}));
-  std::filesystem::remove(log);
-  Logger::DestroySharedData();  // as if another writer had rotated: the log is opened again
-  Write(100);
-  EXPECT_EQ(CurrentSize(), 100U);
-}
-
-TEST_F(LoggerTest, DropsLinesOnceItCannotRotate) {
-  Open(50);
-  std::filesystem::remove(log);  // cannot be renamed then
-  Write(kLimit + 1);
-  Write(100);
-  EXPECT_EQ(TreeOf(dir.path), Tree());
-}
-
 TEST_F(LoggerTest, KeepsOneOldFileLessThanItsDepth) {
-  const Tree older[] = {
-      {{"log_1", "file: b"}, {"log_2", "file: c"}},
-      {{"log_1", "file: b"}, {"log_2", "file: c"}},
-      {{"log_2", "file: c"}},
-      {{"log_1", "file: a"}},
-  };
-  for (int depth = 0; depth < 4; ++depth) {
-    MakeTree(dir.path, {{"log", "file: d"}, {"log_0", "file: a"}});
-    MakeTree(dir.path, {{"log_1", "file: b"}, {"log_2", "file: c"}});
-    Open(depth);
-    EXPECT_EQ(Logger::Rotate(), 0);
-    Tree left = {{"log", "file: "}, {"log_0", "file: d"}};
-    left.insert(older[depth].begin(), older[depth].end());
-    EXPECT_EQ(TreeOf(dir.path), left) << depth;
-  }
-}
-
-TEST_F(LoggerTest, KeepsItsStreamWhenAFileCannotBeOpened) {
-  testing::internal::CaptureStderr();
-  ASSERT_EQ(Logger::Initialize(Logger::TYPE_STDERR, "", "", 50), 0);
-  EXPECT_EQ(Logger::Initialize(Logger::TYPE_FILE, dir / "no/folder", "", 1), -1);
-  EXPECT_EQ(Logger::Rotate(), -1);
-  Write(kLimit + 1);
-  Write(100);
-  Logger::Destroy();
-  Write(100);
-  EXPECT_EQ(testing::internal::GetCapturedStderr().size(), kLimit + 101)
-      << "silent from Destroy on";
+  MakeTree(dir.path, {{"log", "file: d"}, {"log_0", "file: a"}});
+  MakeTree(dir.path, {{"log_1", "file: b"}, {"log_2", "file: c"}});
+  Open(3);
+  EXPECT_EQ(Logger::Rotate(), 0);
+  EXPECT_EQ(TreeOf(dir.path),
+            (Tree{{"log", "file: "}, {"log_0", "file: d"}, {"log_1", "file: a"}}));
 }
 
 TEST_F(LoggerTest, NeverRotatesToNamesThatWouldBeCut) {
@@ -264,21 +185,6 @@ TEST_F(LoggerTest, NeverRotatesToNamesThatWouldBeCut) {
   Write(kLimit + 1);
   Write(100);
   EXPECT_EQ(CurrentSize(), kLimit + 101);
-}
-
-__attribute__((format(printf, 1, 2))) void LogThroughPlainPointer(const char* format, ...) {
-  char component[] = "some_debug";
-  va_list args;
-  va_start(args, format);
-  LogMSG_c(Logger::LEVEL_ERROR, component, format, reinterpret_cast<char*>(&args));
-  va_end(args);
-}
-
-TEST_F(LoggerTest, TakesAStartedListAsAPlainPointer) {
-  if constexpr (std::is_same_v<va_list, char*>) GTEST_SKIP() << "a started list is one anyway";
-  Open(50);
-  LogThroughPlainPointer("%d %s\n", 1, "two");
-  EXPECT_EQ(ReadFile(log).substr(kStamp), "1 two\n");
 }
 
 TEST_F(LoggerTest, LosesAndTearsNoLineOfManyThreads) {

@@ -2,13 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdint>
-#include <future>
-#include <set>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -42,20 +38,6 @@ TEST(TmpNameGen, DrawsThePublishedKeyStreams) {  // of RFC 6229 and the cipher's
   EXPECT_EQ(KeyStream("Wiki").Next(), 0x6044db6d41b7);
 }
 
-TEST(TmpNameGen, FillsAnEmptyKeyFromTheTime) {
-  unsigned char state[256];
-  unsigned char key[256] = {};
-  time_t seed = time(nullptr);
-  TmpNameGen::rc4_init(state, key);
-  std::string expected;
-  for (; expected != std::string(key, key + 256) && seed <= time(nullptr); ++seed) {
-    srand(static_cast<unsigned>(seed));
-    expected.clear();
-    while (expected.size() < 256) expected += static_cast<char>(rand());
-  }
-  EXPECT_EQ(std::string(key, key + 256), expected);
-}
-
 TEST(TmpNameGen, NamesFollowFromTheMicrosecondOfCreation) {
   using std::chrono::microseconds;
   TmpNameGen generator;
@@ -72,19 +54,6 @@ TEST(TmpNameGen, NamesFollowFromTheMicrosecondOfCreation) {
   }
   EXPECT_EQ(path, expected);
   EXPECT_EQ(name, next);
-}
-
-TEST(TmpNameGen, GivesEveryThreadOtherNames) {
-  constexpr int kEach = 5000;
-  std::vector<ustring> names(8 * kEach);
-  std::vector<std::future<void>> threads;
-  for (auto first = names.begin(); first != names.end(); first += kEach) {
-    threads.push_back(std::async(std::launch::async, [first] {
-      std::generate_n(first, kEach, [] { return TmpNameGen::getInstance()->getTmpName(); });
-    }));
-  }
-  threads.clear();  // waits for them
-  EXPECT_EQ(std::set<ustring>(names.begin(), names.end()).size(), names.size());
 }
 
 }  // namespace

@@ -34,20 +34,16 @@ const Change kChanges[] = {
     {" é €€", [](ustring& s) { s.append(kEuro, 2); }},
     {" é ", [](ustring& s) { s.append(kWide[2], 2); }},
     {"bc", [](ustring& s) { s.assign("bcd", 2); }},
-    {"bb", [](ustring& s) { s.assign('b', 2); }},
     {"x", [](ustring& s) { s.assign(kWide, 1); }},
-    {"€€", [](ustring& s) { s.assign(kEuro, 2); }},
     {"é ", [](ustring& s) { s.ltrim(" "); }},
     {" é", [](ustring& s) { s.rtrim(" "); }},
     {"", [](ustring& s) { s.trim(s); }},
     {"-é-", [](ustring& s) { s.replace(' ', '-'); }},
     {"bé ", [](ustring& s) { s[0] = 'b'; }},
-    {"b", [](ustring& s) { swap(s, *std::make_unique<ustring>('b')); }},
     {"bc", [](ustring& s) { s.swap(*std::make_unique<ustring>('b')).append('c', 1); }},
     {"x€ é ", [](ustring& s) { s = kWide + ustring(std::move(s)); }},
     {"", [](ustring& s) { const ustring taken(std::move(s)); }},
     {"", [](ustring& s) { ustring('b') = std::move(s); }},
-    {" é ", [](ustring& s) { s = s.normalize(ustring::NFD).normalize(ustring::NFC); }},
     {" é  é ", [](ustring& s) { s += s.c_str(); }},
     {" é  é ", [](ustring& s) { s += s.c_str_utf16(); }},
     {" é  ", [](ustring& s) { s.append(s.c_str(), 1); }},
@@ -58,7 +54,6 @@ const Change kChanges[] = {
     {" é ", [](ustring& s) { s.append('b', s.npos); }, "std::bad_alloc"},
     {" é ", [](ustring& s) { s.append(kWide[0], s.npos / 2); }, "std::bad_alloc"},
     {" é ", [](ustring& s) { s.assign(s, 5); }, "substr"},
-    {"", [](ustring& s) { s.assign(ustring(), 1); }, "substr"},
     {" é ", [](ustring& s) { s.append(std::string(), 1); }, "basic_string::substr"},
 };
 
@@ -82,29 +77,11 @@ TEST(UString, ChangesReachBothForms) {
   }
 }
 
-template <typename Text>
-void CheckKindOfText(const Text& x) {
-  ustring s("é");
-  EXPECT_EQ(s + x, "éx");
-  EXPECT_EQ(Utf16(s += x), u"éx");
-  EXPECT_EQ(Utf16(s = x), u"x");
-}
-
-TEST(UString, TakesEveryKindOfText) {
-  CheckKindOfText("x");
-  CheckKindOfText(std::string("x"));
-  CheckKindOfText(ustring("x"));
-  CheckKindOfText('x');
-  CheckKindOfText(kWide[0]);
-}
-
 TEST(UString, IllFormedTextIsKeptAndHasNoUtf16) {
   std::stringstream texts;
   texts << ustring(
-      "\x80 \xBF \xC3 \xC3( \xE2\x82 \xE2(\xA1 \xF0\x9F\x98 \xF0(\x8C\xBC "             // cut short
-      "\xC0\xAF \xC1\xBF \xE0\x80\xAF \xE0\x9F\xBF \xF0\x80\x80\xAF \xF0\x8F\xBF\xBF "  // overlong
-      "\xED\xA0\x80 \xED\xBF\xBF \xED\xA0\x81\xED\xB0\x80 "                   // surrogates
-      "\xF4\x90\x80\x80 \xF5\x80\x80\x80 \xF8\x88\x80\x80\x80 \xFE a\xFFz");  // too great
+      "\x80 \xC3( \xF0\x9F\x98 \xC0\xAF \xF0\x8F\xBF\xBF "  // cut short and overlong
+      "\xED\xA0\x80 \xF4\x90\x80\x80 a\xFFz");              // a surrogate and too great
   std::string warnings;
   for (int i = 0; i < 4; ++i) warnings += "Warning: u_strFromUTF8: error code 10 at line 921\n";
   for (ustring text; texts >> text;) {
@@ -117,17 +94,14 @@ TEST(UString, IllFormedTextIsKeptAndHasNoUtf16) {
     EXPECT_EQ(s += kWide, "x€");
     EXPECT_EQ(testing::internal::GetCapturedStderr(), warnings) << text;
   }
-  const unsigned short lone_surrogates[][4] = {
-      {0xD800}, {0xDC00}, {'a', 0xDC00, 0xD800}, {0xD800, 'z'}};
-  for (const auto& w : lone_surrogates) {
-    testing::internal::CaptureStderr();
-    ustring s("before");
-    s += w;
-    EXPECT_EQ(s, "");
-    EXPECT_EQ(Utf16(s), u"");
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "Warning: u_strToUTF8: error code 10 at line 888\n");
-  }
+  const unsigned short lone_surrogate[] = {'a', 0xDC00, 0xD800, 0};
+  testing::internal::CaptureStderr();
+  ustring s("before");
+  s += lone_surrogate;
+  EXPECT_EQ(s, "");
+  EXPECT_EQ(Utf16(s), u"");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "Warning: u_strToUTF8: error code 10 at line 888\n");
 }
 
 template <typename Pattern>
@@ -169,11 +143,6 @@ void CheckTrimming(const std::string& text, const std::string& set) {
   const std::string left = text.substr(std::min(text.find_first_not_of(set), text.size()));
   const std::string both = left.substr(0, left.find_last_not_of(set) + 1);
   ustring s(text);
-  s.ltrim(ustring(set));
-  EXPECT_EQ(s, left);
-  s.rtrim(ustring(set));
-  EXPECT_EQ(s, both);
-  s = text;
   s.trim(set.c_str());
   EXPECT_EQ(s, both);
 }
