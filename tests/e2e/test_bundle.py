@@ -39,17 +39,6 @@ class Libraries(Case):
                 expected = [("RPATH", "$ORIGIN/../Frameworks")] if path == LAUNCHER else []
                 self.assertEqual(folders, expected)
 
-    def test_the_loader_takes_nothing_from_outside(self):
-        self.put_package(3487)
-        self.run_launcher(LD_DEBUG="libs", LD_DEBUG_OUTPUT=self.folder / "loaded")
-        told = "".join(path.read_text() for path in self.folder.glob("loaded.*"))
-        frameworks = (self.bundle / "Contents/Frameworks").resolve()
-        loaded = {pathlib.Path(path).resolve() for path in re.findall("calling init: (.*)", told)}
-        inside = {path for path in loaded if frameworks in path.parents}
-        self.assertIn("libqoffscreen.so", {path.name for path in inside})
-        outside = {path.name for path in loaded - inside}
-        self.assertEqual({name for name in outside if not GLIBC.fullmatch(name)}, set())
-
     def test_packages_are_read_back_by_the_libarchive_that_ships(self):
         loaded = subprocess.run(["ldd", READER], check=True, capture_output=True, text=True).stdout
         name, path = re.search(r"(libarchive\S+) => (\S+)", loaded).groups()
@@ -69,11 +58,6 @@ class PropertyList(unittest.TestCase):
         expected = [special.get(locale, locale.split("_")[0]) for locale in locales]
         self.assertCountEqual(self.properties["CFBundleLocalizations"], expected)
         self.assertTrue(self.properties["CFBundleAllowMixedLocalizations"])
-
-    def test_what_it_names_is_there(self):
-        contents = BUNDLE / "Contents"
-        self.assertTrue((contents / "MacOS" / self.properties["CFBundleExecutable"]).is_file())
-        self.assertTrue((contents / "Resources" / self.properties["CFBundleIconFile"]).is_file())
 
 
 # Each stands in for the tool of its name, and notes how it was called. cmake installs a small

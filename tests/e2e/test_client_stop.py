@@ -1,7 +1,6 @@
 """Before an upgrade the client is asked to end, waited for, and ended with force if it stays."""
 
 import os
-import subprocess
 import time
 
 from support import ORDINARY_USER, alive, wait_for
@@ -34,13 +33,6 @@ class ClientStop(UpgradeCase):
                 self.assert_upgrade_takes(seconds)
                 self.assertFalse(alive(client), "the old client has ended")
                 self.assert_client_runs(NEW)
-
-    def test_a_client_that_has_gone_costs_no_time(self):
-        with subprocess.Popen(["true"]) as process:
-            process.wait()
-        self.pid_file().write_text(f"pid={process.pid}\n")
-        self.assert_upgrade_takes(0)
-        self.assert_client_runs(NEW)
 
     def test_a_pid_file_that_cannot_be_read(self):
         makers = {

@@ -5,7 +5,7 @@ import pathlib
 import signal
 import time
 
-from support import FULL, NOBODY, ROOT, wait_for
+from support import FULL, wait_for
 from sweep import Sweep, SweepCase
 from upgrade import NEW, NEXT, OLD, UpgradeCase
 
@@ -107,8 +107,6 @@ class LockFile(SweepCase):
             "link to a file": lambda path: path.symlink_to(target),
             "link to nothing": lambda path: path.symlink_to("nowhere"),
         }
-        if ROOT:
-            makers["file of another user"] = self.make_foreign_file
         for kind, make in makers.items():
             with self.subTest(kind):
                 self.begin()
@@ -117,11 +115,3 @@ class LockFile(SweepCase):
                 self.assertTrue(os.path.lexists(self.lock()), "it is not the launcher's")
                 self.assert_client_runs(NEW)
         self.assertEqual(target.read_text(), "kept")
-
-    def make_foreign_file(self, path):
-        path.write_bytes(self.held_by_this_test)
-        os.chown(path, NOBODY, NOBODY)
-
-    def test_a_missing_temporary_folder_locks_nobody_out(self):
-        self.run_launcher(TMPDIR=self.folder / "missing")
-        self.assert_client_runs(NEW)

@@ -5,7 +5,6 @@ import itertools
 import os
 import pathlib
 import plistlib
-import re
 import shutil
 import stat
 import subprocess
@@ -16,7 +15,7 @@ import zipfile
 import zlib
 from typing import NamedTuple
 
-from support import EXECUTABLE, INFO, MAKE_PACKAGE, READER, ROOT, Case, tree
+from support import EXECUTABLE, INFO, MAKE_PACKAGE, READER, Case, tree
 
 sys.path.insert(0, os.path.dirname(MAKE_PACKAGE))
 from zip_writer import DEFLATED, STORED, ZSTANDARD, Member, ZipWriter  # noqa: E402
@@ -135,11 +134,6 @@ class MakePackage(Case):
             self.assertRegex(done.stderr, reason)
             self.assertEqual(sorted(self.folder.rglob("*")), nodes)
             self.assert_same_tree(tree(self.folder / out), package)
-
-    def read(self, package):
-        """The status of the launcher's reader."""
-        into = tempfile.mkdtemp(dir=self.folder)
-        return subprocess.run([READER, package, into], stderr=subprocess.DEVNULL).returncode
 
     def test_trees_that_would_not_survive_are_refused(self):
         class Row(NamedTuple):
@@ -333,42 +327,6 @@ class MakePackage(Case):
         listed = subprocess.run(["bsdtar", "-tvf", package], capture_output=True, text=True)
         lines = [line.split() for line in listed.stdout.splitlines()]
         self.assertEqual({line[-1]: int(line[4]) for line in lines}, expected)
-
-    def test_damaged_packages_fail_in_the_launchers_reader(self):
-        self.make(make_app(self.folder))
-        whole, name = self.package.read_bytes(), RESOURCES + "ü.txt"
-        member = members(self.package)[name]
-        data = member.header_offset + zipfile.sizeFileHeader + len(name.encode())
-        middle = data + member.compress_size // 2
-        frame = whole[data:middle]
-        checksum = member.CRC.to_bytes(4, "little")
-        damaged = {
-            "start of a frame": whole.replace(frame, b"none" + frame[4:]),
-            "middle of a frame": whole.replace(frame, frame[:20] + b"????" + frame[24:]),
-            "checksum": whole.replace(checksum, checksum[::-1]),
-            "cut in the data": whole[:middle],
-            "cut in the directory": whole[:-100],
-            "cut at the end": whole[:-1],
-        }
-        self.assertEqual(self.read(self.package), 0)
-        for damage, content in damaged.items():
-            with self.subTest(damage):
-                self.assertNotEqual(content, whole)
-                self.package.write_bytes(content)
-                self.assertEqual(self.read(self.package), 1)
-
-    @unittest.skipUnless(ROOT, "only root can mount a small disk")
-    def test_a_full_disk_leaves_nothing_wherever_it_strikes(self):
-        app, disk, told = make_app(self.folder), self.folder / "disk", set()
-        disk.mkdir()
-        for kilobytes in range(64, 2000, 128):
-            options = f"size={kilobytes}k"
-            subprocess.run(["mount", "-t", "tmpfs", "-o", options, "tmpfs", disk], check=True)
-            self.addCleanup(subprocess.run, ["umount", disk], check=True)
-            done = self.make(app, out="disk/out", status=(0, 1))
-            self.assertEqual(os.listdir(disk), [] if done.returncode else ["out"], done)
-            told.update(re.findall("No space left|cannot be read back", done.stderr) or ["done"])
-        self.assertEqual(told, {"No space left", "cannot be read back", "done"})
 
 
 if __name__ == "__main__":

@@ -1,7 +1,8 @@
-"""The power may go at any moment: the next start has a complete client all the same, old or new, and starts it.
+"""The power may go at any moment: the next start leaves a complete client, old or new, and runs it.
 
-The home lies on a file system in a file, and that file on another one, which clones files in an instant. A power cut is
-such a clone: it holds what has reached the disk by then, and what was only in memory is missing.
+The home lies on a file system in a file, and that file on another one, which clones files in an
+instant. A power cut is such a clone: it holds what has reached the disk by then, and what was only
+in memory is missing.
 """
 
 import ctypes
@@ -49,7 +50,7 @@ def force_version_file(home):
 
 
 def force_another_file(home):
-    """With it go the names of all files that the launcher made and removed, but not what they hold."""
+    """With it go the names of all files that were made and removed, but not what they hold."""
     (home / "another").write_text("another")
     force(home / "another")
 
@@ -72,13 +73,13 @@ class Cut:
 
 
 def is_milestone(call):
-    """Whether the launcher begins or ends something with this call, so that an order may be wrong there."""
+    """Whether something begins or ends with this call, so that an order may be wrong there."""
     name, _, path = call.partition(" ")
     return name in ("rename", "syncfs") or path.endswith(INFO)
 
 
 def cuts(calls):
-    """The cuts to try in a run that makes these calls; the long suite tries its milestones under all conditions."""
+    """The cuts to try in a run with these calls; a full run has milestones under all conditions."""
     step = 10 if FULL else len(calls) // 3
     conditions = itertools.cycle(CONDITIONS)
     numbers = [n for n, call in enumerate(calls, 1) if is_milestone(call) or n % step == 0]
@@ -123,12 +124,15 @@ class Power(Case):
 
     def take_disk_out(self):
         self.end_clients()
-        umount = lambda: subprocess.run(["umount", self.disk], stderr=subprocess.PIPE, check=False)
+        command = ["umount", self.disk]
         if os.path.ismount(self.disk):
-            wait_for(lambda: umount().returncode == 0, "a client that ends lets go of the disk")
+            wait_for(
+                lambda: subprocess.run(command, capture_output=True).returncode == 0,
+                "a client that ends lets go of the disk",
+            )
 
     def begin_with(self, file_system, installed):
-        """A home on a disk of its own, with a client that was installed long ago, or without one."""
+        """A home on a disk of its own, with a client installed long ago, or without one."""
         self.take_disk_out()
         self.image.unlink(missing_ok=True)
         prepared = self.images / f"{file_system}-{installed}"
@@ -147,7 +151,7 @@ class Power(Case):
         self.put_disk_in()
 
     def put_new_package(self, damaged=False):
-        """The package of the new client. A damaged one lacks its end, which shows when all else is extracted."""
+        """The package of the new client. A damaged one lacks its end, which shows at last."""
         complete = self.put_package(NEW)
         if damaged:
             os.truncate(self.archive(), self.archive().stat().st_size - 100)
@@ -168,7 +172,7 @@ class Power(Case):
         return made.read_text().splitlines()
 
     def run_until(self, cut):
-        """Runs the launcher into the power cut: nothing happens between its end and the copy of the disk."""
+        """Runs the launcher into the power cut."""
         if cut.call:
             self.run_with_fault(-signal.SIGKILL, FAULT_MODE="kill", FAULT_NTH=cut.call)
         else:
@@ -195,8 +199,8 @@ class Power(Case):
     def try_cuts(self, installed, damaged_before=False, damaged_after=False, first_cut=None):
         """Cuts the power in a run, and starts the launcher once more.
 
-        `first_cut` is the call before which the power goes in another run before that one; `damaged_before` and
-        `damaged_after` are about the package in those runs, and at that last start.
+        `first_cut` is the call before which the power goes in another run before that one. The
+        package may be damaged in those runs, or at that last start.
         """
         old = [self.put_package(OLD)] if installed else []
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -44,16 +43,4 @@ inline void WriteFile(const std::string& path, const std::string& text) {
 inline std::string ReadFile(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-/// How many open descriptors of the file `path` a program that is started now would inherit.
-inline int CountInherited(const std::string& path) {
-  int count = 0;
-  for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
-    std::error_code gone;
-    if (std::filesystem::read_symlink(entry, gone) != path) continue;
-    const int flags = fcntl(std::stoi(entry.path().filename()), F_GETFD);
-    if ((flags & FD_CLOEXEC) == 0) ++count;
-  }
-  return count;
 }

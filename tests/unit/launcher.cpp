@@ -5,14 +5,11 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QProgressDialog>
 #include <QPushButton>
-#include <QTranslator>
 #include <memory>
 #include <thread>
 
-#include "StrTable.h"
 #include "notify-adapter.h"
 #include "support/test-home.h"
 
@@ -29,7 +26,7 @@ struct Report {
   int value;  // that the dialog shows then
 };
 
-TEST(Launcher, DialogShowsWhatIsReportedAndCannotBeCancelled) {
+TEST(Launcher, DialogShowsWhatIsReportedAndCannotBeCanceled) {
   const TestHome home;
   const Launcher launcher;
   QProgressDialog* dialog = Dialog();
@@ -46,23 +43,6 @@ TEST(Launcher, DialogShowsWhatIsReportedAndCannotBeCancelled) {
   }
   Notify_Adapter::GetInstance()->UpdateDialogText(QStringLiteral("text"));
   EXPECT_EQ(dialog->labelText(), QStringLiteral("text"));
-}
-
-TEST(Launcher, DialogSpeaksTheInstalledLanguage) {
-  const TestHome home;
-  QTranslator translator;
-  ASSERT_TRUE(translator.load(QStringLiteral(":/deu.qm")));
-  ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
-  StrTable::InitStrTable();
-  {
-    const Launcher launcher;
-    const QLabel* label = Dialog()->findChild<QLabel*>();
-    ASSERT_NE(label, nullptr);
-    EXPECT_EQ(label->text(), translator.translate("global", "Lumivo Drive is initializing..."));
-    EXPECT_NE(label->text(), QStringLiteral("Lumivo Drive is initializing..."));
-  }
-  QCoreApplication::removeTranslator(&translator);
-  StrTable::InitStrTable();
 }
 
 TEST(Launcher, NothingButTheWorkerEndsTheRun) {
