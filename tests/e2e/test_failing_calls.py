@@ -4,7 +4,7 @@ import errno
 
 from support import FULL
 from sweep import ERRORS, Sweep, SweepCase
-from upgrade import UpgradeCase
+from upgrade import ROLLED_BACK, UpgradeCase
 
 # The package is good, or cannot be extracted to its end.
 DAMAGES = (None, UpgradeCase.damage_executable)
@@ -27,6 +27,10 @@ class FailingCalls(SweepCase):
         for damage in DAMAGES:
             for calls in CHANGES:
                 self.run_sweep(Sweep(calls, "always", step=5, damage=damage))
+
+    def test_a_full_disk_is_named_in_the_log(self):
+        self.meet_fault(Sweep("write", "once", "/.Lumivo/Lumivo.app"), 1, errno.ENOSPC)
+        self.assert_logged("extract2: No space left on device (28)\n", *ROLLED_BACK)
 
     def test_a_look_at_the_old_client_that_fails(self):
         # Taken for missing, it would stay where the new one is extracted.

@@ -25,6 +25,12 @@ namespace {
 const ustring kComponent = "extractor_debug";
 
 constexpr size_t kBlockSize = 10240;
+// How libarchive numbers what is wrong with an archive, and not a system call.
+#ifdef EFTYPE
+constexpr int kDamaged = EFTYPE;
+#else
+constexpr int kDamaged = EILSEQ;
+#endif
 constexpr int kWriterOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
@@ -112,10 +118,9 @@ class LinkGuard {
   bool hasLinks_ = false;
 };
 
-// Why the last operation of either failed: by the first one's account, or else by the second's.
-const char* ErrorText(struct archive* first, struct archive* second = nullptr) {
-  const char* text = archive_error_string(first);
-  if (text == nullptr && second != nullptr) text = archive_error_string(second);
+// Why the last operation failed.
+const char* ErrorText(struct archive* archive) {
+  const char* text = archive_error_string(archive);
   return text != nullptr ? text : "no reason given";
 }
 
@@ -203,7 +208,7 @@ int CheckData(struct archive* reader) {
   return result == ARCHIVE_EOF ? ARCHIVE_OK : result;
 }
 
-/// One way through an opened archive, from its first entry to its last.
+/// One pass over an opened archive, from its first entry to its last.
 class Extraction {
  public:
   /// `total` is the number of entries; all else is the caller's, and outlives this.
@@ -238,7 +243,7 @@ class Extraction {
   }
 
  private:
-  // The writer replaces a link on the way of a hard link's target by a folder, so it gets a way
+  // The writer replaces a link on the path of a hard link's target by a folder, so it gets a path
   // without links.
   static std::string FolderOf(const Extractor& extractor) {
     const std::string resolved = RealPath(extractor.destination.c_str());
@@ -262,7 +267,7 @@ class Extraction {
     if (number == total_ && !MayEnd(number)) return ARCHIVE_FATAL;
 
     if ((isCut_ ? CheckData(reader_) : Write(entry)) == ARCHIVE_OK) return ARCHIVE_OK;
-    LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", ErrorText(writer_, reader_));
+    LogExtractFailure();
     return ARCHIVE_FATAL;
   }
 
@@ -278,12 +283,12 @@ class Extraction {
   int Write(struct archive_entry* entry) {
     const char* name = archive_entry_pathname(entry);
     if (NamesTheFolderItself(name) && !IsFolder(entry)) {
-      archive_set_error(writer_, EPERM, "'%s' would take the place of the destination", name);
+      archive_set_error(writer_, kDamaged, "'%s' would take the place of the destination", name);
       return ARCHIVE_FAILED;
     }
     MoveBelow(folder_, entry, name);
     if (!StaysInside(&guard_, entry)) {
-      archive_set_error(writer_, EPERM, "the way to '%s' leads out of the destination",
+      archive_set_error(writer_, kDamaged, "the way to '%s' leads out of the destination",
                         archive_entry_pathname(entry));
       return ARCHIVE_FAILED;
     }
@@ -295,6 +300,16 @@ class Extraction {
     const bool symbolic = archive_entry_filetype(entry) == AE_IFLNK;
     if (symbolic || archive_entry_hardlink(entry) != nullptr) guard_.LinkWritten(symbolic);
     return ARCHIVE_OK;
+  }
+
+  // By the account of the writer, or of the reader where the writer has none. The text says which
+  // step failed ("Write failed"), but not that the disk is full.
+  void LogExtractFailure() const {
+    struct archive* const told = archive_error_string(writer_) != nullptr ? writer_ : reader_;
+    LOG_ERROR(kComponent, "archive_read_extract2 failed: '%s'\n", ErrorText(told));
+    const int error = archive_errno(told);
+    if (error <= 0 || error == kDamaged) return;  // the system did not refuse anything
+    LOG_ERROR(kComponent, "archive_read_extract2: %s (%d)\n", strerror(error), error);
   }
 
   bool IsForcedToDisk() const {
