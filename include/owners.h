@@ -31,7 +31,7 @@ struct DirCloser {
 /// An open folder.
 using DirStream = std::unique_ptr<DIR, DirCloser>;
 
-/// A file descriptor. It is closed with its owner, who leaves `errno` as it was.
+/// A file descriptor. It is closed with its owner, which leaves `errno` as it was.
 class Descriptor {
  public:
   Descriptor() = default;

@@ -18,7 +18,7 @@
 ///
 /// | state | `Lumivo.app` | backup | next start |
 /// |---|---|---|---|
-/// | old | old | none | begins anew |
+/// | old | old | none | starts over |
 /// | aside | missing | old | extracts, or restores the old one |
 /// | extracting | partial | old | moves the partial one aside, extracts, or restores the old one |
 /// | new | new | old | starts the new client |
@@ -37,8 +37,8 @@ class BundleSwap {
   explicit BundleSwap(const ustring& bundle);
 
   /// Moves the bundle aside, to the first backup name that a rename accepts. Atomic. A bundle that
-  /// does not exist is success; one that can't be examined, even after a second look, counts as not
-  /// existing, and creating its folder then fails.
+  /// does not exist is success. One that still can't be examined on a second try counts as not
+  /// existing; creating its folder then fails.
   ///
   /// @return false when none of the ten names could be taken; the bundle is untouched then
   bool MoveAside();
@@ -46,12 +46,13 @@ class BundleSwap {
   /// Puts a bundle back in place of the partial new one, which is removed: the one that MoveAside()
   /// moved. Only when that one is incomplete, or there was none, and an interrupted run left a
   /// complete backup, the backup with the highest build number goes back instead, and the
-  /// incomplete one stays at its backup name. With nothing to put back the partial bundle stays.
+  /// incomplete one stays at its backup name. Where no backup is better, the incomplete one goes
+  /// back. With nothing to put back the partial bundle stays.
   void Rollback();
 
-  /// Removes the backups, from the one that MoveAside() made down to the first name. Whatever
-  /// cannot be removed stays for the next replacement. When the new bundle cannot be forced to the
-  /// disk, all backups stay.
+  /// Removes the backups, from the one that MoveAside() made down to the first name. The new
+  /// bundle must be complete and on the disk, as Extractor::Extract() leaves it. Whatever cannot be
+  /// removed stays for the next replacement.
   void Commit();
 
  private:

@@ -6,8 +6,8 @@ struct archive;
 
 /// Unpacks the package archive into a folder, entry by entry.
 ///
-/// Fill both fields, then call any operation, each as often as wanted: no archive stays open
-/// between calls. All formats and filters of libarchive are read. Every failure is logged under
+/// Fill both fields, then call any operation, any number of times: no archive stays open between
+/// calls. All formats and filters of libarchive are read. Every failure is logged under
 /// "extractor_debug" and reported as -1; what was written before it stays on disk, for the caller
 /// to roll back.
 ///
@@ -23,13 +23,13 @@ class Extractor {
   /// once and then (total, k) after the k-th entry, with the total of Count().
   ///
   /// Nothing is written outside `destination`: absolute names and the targets of hard links are put
-  /// below it, names with ".." are refused, and so is an entry whose way leads out of it through a
+  /// below it, names with ".." are refused, and so is an entry whose path leads out of it through a
   /// symbolic link. Links themselves are extracted as they are, and so are hard links to them. An
   /// entry that names the destination itself is a folder, or refused. Owners, times, ACLs and
   /// extended attributes are not restored; modes are, less the umask, and with all rights of the
-  /// owner on folders, so that the tree can be removed again. A zip without the directory at its
-  /// end is refused once its end is reached, and its last entry is not written: it could be read
-  /// from the front, but its modes and links would be lost.
+  /// owner on folders, so that the tree can be removed again. A zip without the central directory
+  /// at its end is refused once that end is reached, and its last entry is not written: it could be
+  /// read from the front, but its modes and links would be lost.
   ///
   /// A power cut at any moment leaves either all entries or not the last one: the others are on the
   /// disk before it is written. It is there too before the result is 0, so that what it replaces
@@ -40,8 +40,8 @@ class Extractor {
   int Extract();
 
   /// The number of entries up to the end of the archive or the first damage in it; -1 when it
-  /// cannot be opened. Cheap for formats with a directory at their end, a whole decompression for
-  /// the others.
+  /// cannot be opened. Cheap for formats with a directory (zip, 7z), a whole decompression for the
+  /// others.
   int Count();
 
   /// Prints every entry's path to standard output, one a line, up to the end or the first damage.

@@ -39,7 +39,7 @@ class Worker : public QObject {
   void JoinThread();
 
  signals:
-  /// The run is over; the last signal, on every path.
+  /// The run is over. Always the last signal emitted.
   void sigServiceDone();
   /// An upgrade begins, and the dialog should be seen.
   void sigShowMsg();
@@ -50,8 +50,9 @@ class Worker : public QObject {
 
  private slots:
   /// One run: upgrades the per-user installation when it needs the package, cleans up, starts the
-  /// client. Whatever fails on the way is logged, and the client is started all the same. Only when
-  /// another launcher keeps the installation is all of that left to it.
+  /// client. Whatever fails on the way is logged, and the client is started all the same. If
+  /// another launcher holds the lock on the installation, nothing is done here: that one does it
+  /// all.
   void HandleServicce();
 
  private:

@@ -25,15 +25,15 @@ constexpr int kRotateCount = 50;
 
 const ustring kComponent = "launcher_debug";
 
-// The toolkit looks for its plug-ins nowhere but in the bundle, so that the bundle runs the same on
-// every machine.
+// Qt looks for its plug-ins nowhere but in the bundle, so that the bundle runs the same on every
+// machine.
 void SetPluginFolder(const char* program) {
   const QString folder =
       QDir::cleanPath(QString::fromUtf8(program) + QStringLiteral("/../../Frameworks/plugins"));
   QCoreApplication::setLibraryPaths(QStringList(folder));
   printf("lib path = '%s'\n", folder.toUtf8().constData());
-  fflush(stdout);  // the toolkit aborts when the folder lacks its platform plug-in, and the line
-                   // tells where it looked
+  fflush(stdout);  // Qt aborts when the folder lacks its platform plug-in, and the line tells where
+                   // it looked
 }
 
 // Without a log folder the Logger keeps its initial state, and the launcher does its work all the
@@ -73,8 +73,9 @@ int Run(QtSingleApplication* app) {
 int main(int argc, char** argv) {
   setlocale(LC_ALL, "");
   SetOwnTimeZone();
-  // Nothing may end an upgrade half-way, with the client away: neither a line that nobody reads,
-  // nor the session's end, nor a limit on the size of files, which makes the write fail anyhow.
+  // Nothing may end an upgrade half-way, while no client is in place: neither a line that nobody
+  // reads, nor the session's end, nor a limit on the size of files, which makes the write fail
+  // anyway.
   for (const int number : {SIGPIPE, SIGHUP, SIGTERM, SIGXFSZ}) signal(number, SIG_IGN);
   Q_INIT_RESOURCE(texts);
   SetPluginFolder(argc > 0 && argv[0] != nullptr ? argv[0] : "");

@@ -98,7 +98,7 @@ bool StartDetached(const QByteArray& program) {
 }  // namespace
 
 int UnregisterBundle(const QString& bundle) {
-  // Where the tool is missing, a look costs less than a process that fails to become it.
+  // Where the tool is missing, a look costs less than a failed exec.
   if (access(kRegistrationTool, X_OK) != 0) return kToolMissing;
   return QProcess::execute(QLatin1String(kRegistrationTool), {QStringLiteral("-u"), bundle});
 }

@@ -15,21 +15,21 @@ class MacService : public Service {
   static MacService* GetInstace();
 
   /// Ends the client that the pid file names: SIGTERM, a look every second for up to 5 seconds,
-  /// then SIGKILL. Only a value that is the id of one other process is signalled; any other is
-  /// logged. Blocks for 5 seconds at most.
+  /// then SIGKILL. Only a value that begins with the ID of one other process is signaled; any
+  /// other is logged. Blocks for 5 seconds at most.
   void StopService() override;
 
   /// Stops the client where there is one, then PrepareUserEnv(), whose result it gives.
   int HandlePackageUpgrade() override;
 
-  /// LaunchPerUserBin(); a failure is logged, and there is nothing else to be done about it.
+  /// LaunchPerUserBin(); a failure is logged; nothing more can be done.
   void PostUpgrade() override;
 
   /// Loads both versions, the package's first, and logs build and icon overlay of each.
   void PreUpgrade() override;
 
   /// True when the package's build number is above the installed one's (a missing or other text
-  /// counts as 0), or when the client's executable is missing. Nothing is ever downgraded.
+  /// counts as 0), or when the client's executable is missing, whatever the builds are then.
   bool IsNeedUpgrade() override;
 
   /// The same as LoadSourceVersion() and LoadTargetVersion().
@@ -39,8 +39,7 @@ class MacService : public Service {
   /// Whether there is a client executable in the per-user bundle, executable or not.
   bool PerUserBinPathExist();
 
-  /// Has the platform forget where it saw the per-user bundle before (a failure is logged only),
-  /// then open it. 0 when the platform accepted that, -1 otherwise. Waits for the first, not for
-  /// the client.
+  /// Makes the platform forget where it last saw the bundle (a failure is only logged), then opens
+  /// it. 0 when the platform accepted that, -1 otherwise. Waits for the former, not for the client.
   static int LaunchPerUserBin();
 };
