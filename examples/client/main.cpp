@@ -70,9 +70,10 @@ class Presence {
     if (!QDir().mkpath(folder_)) return Fail(QStringLiteral("cannot create '%1'").arg(folder_));
     const QString path = folder_ + QStringLiteral("/ui.lock");
     lock_ = open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (lock_ < 0)
+    if (lock_ < 0) {
       return Fail(QStringLiteral("cannot open '%1': %2")
                       .arg(path, QString::fromLocal8Bit(strerror(errno))));
+    }
     if (flock(lock_, LOCK_EX | LOCK_NB) == 0) return Entry::kEntered;
     if (errno == EWOULDBLOCK) return Entry::kTaken;
     return Fail(

@@ -5,7 +5,7 @@ import errno
 import itertools
 import os
 import signal
-from collections.abc import Callable, Iterable
+from collections.abc import Callable
 from typing import Optional
 
 from support import FULL, tree
@@ -24,7 +24,6 @@ class Sweep:
     errors: tuple = ERRORS  # taken in turn; of no meaning where the process is killed
     first: int = 1  # the number of the first call that is tried
     step: int = 1  # how far apart those are; a full run tries all
-    numbers: Optional[Iterable] = None  # these calls instead
     installed: Optional[int] = OLD
     damage: Optional[Callable] = None  # of the package
     next_damage: Optional[Callable] = None  # of the package that the start after the fault finds
@@ -37,8 +36,6 @@ class Sweep:
         )
 
     def calls_to_try(self):
-        if self.numbers is not None:
-            return self.numbers
         return itertools.count(1) if FULL else itertools.count(self.first, self.step)
 
 

@@ -20,9 +20,6 @@ class FailingCalls(SweepCase):
             self.run_sweep(Sweep("changes", "once", errors=errors, first=2, step=3, damage=damage))
             self.run_sweep(Sweep("changes", "once", errors=errors, step=4, installed=None))
 
-    def test_a_transfer_that_is_cut_short(self):
-        self.run_sweep(Sweep("write,read", "short", step=4))
-
     def test_changes_that_fail_from_then_on(self):
         for damage in DAMAGES:
             for calls in CHANGES:

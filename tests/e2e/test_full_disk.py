@@ -48,10 +48,3 @@ class FullDisk(UpgradeCase):
         self.fill(log, 0)
         self.run_launcher()
         self.assert_client_runs(NEW)
-
-    def test_a_bundle_on_a_read_only_disk(self):
-        image = self.folder / "image"
-        self.mount("--bind", self.bundle, at=image)
-        subprocess.run(["mount", "-o", "remount,bind,ro", image], check=True)
-        self.run_launcher(bundle=image)
-        self.assert_client_runs(NEW)

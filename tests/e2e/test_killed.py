@@ -1,10 +1,7 @@
 """The launcher is killed: the next start leaves a complete client, whatever was half done."""
 
-import random
-
-from support import FULL
 from sweep import Sweep, SweepCase
-from upgrade import OLD, UpgradeCase
+from upgrade import UpgradeCase
 
 damage_executable = UpgradeCase.damage_executable
 append_refused_entry = UpgradeCase.append_refused_entry
@@ -25,13 +22,3 @@ class Killed(SweepCase):
         self.run_sweep(Sweep("changes", "kill", first=4, step=4, **part))
         complete = {"damage": append_refused_entry}
         self.run_sweep(Sweep("rename,unlinkat", "kill", first=1, step=2, **complete))
-
-    def test_at_a_sample_of_changes_of_a_large_upgrade(self):
-        self.files = 2000 if FULL else 200
-        self.begin(OLD)
-        calls = self.calls_without_fault(Sweep("changes", "kill"))
-        sample = random.Random(1).sample(range(1, len(calls)), 60 if FULL else 4)
-        self.run_sweep(Sweep("changes", "kill", numbers=sample[::2]))
-        self.run_sweep(
-            Sweep("changes", "kill", numbers=sample[1::2], next_damage=damage_executable)
-        )

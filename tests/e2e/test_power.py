@@ -98,10 +98,11 @@ class Power(Case):
         missing = [tool for tool in TOOLS if not shutil.which(tool)]
         if missing or not ROOT or not os.path.exists("/dev/loop-control"):
             raise unittest.SkipTest(f"needs root, loop devices and {', '.join(TOOLS)}")
-        # What is mounted from here on, with its loop devices, cannot outlive this process.
+        # What is mounted from here on, with its loop devices, cannot outlive this process; but in a
+        # chroot, whose root is no mount point, only the cleanup unmounts it.
         if ctypes.CDLL(None).unshare(CLONE_NEWNS) != 0:
             raise unittest.SkipTest("needs the right to mount")
-        run("mount", "--make-rprivate", "/")
+        subprocess.run(["mount", "--make-rprivate", "/"], capture_output=True, check=False)
         cls.images = pathlib.Path(tempfile.mkdtemp(prefix="lumivo-power-"))
         cls.addClassCleanup(cls.images.rmdir)
         with tempfile.NamedTemporaryFile(dir="/dev/shm", prefix="lumivo-power-") as memory:

@@ -10,7 +10,6 @@
 //   FAULT_NTH         which of them meets the fault, from 1; without it nothing fails
 //   FAULT_MODE        once    that call fails (the default)
 //                     always  it and all that follow fail
-//                     short   a read or write does 2 bytes of what it was asked to
 //                     kill    the process is killed instead of the call; of a read or write, half
 //                             is done first
 //   FAULT_ERRNO       a number; default EIO
@@ -94,11 +93,6 @@ Fate Decide(const std::string& name, const std::string& path, bool changes,
   const std::string& mode = g_plan->mode;
   if (g_plan->nth < 1 || count < g_plan->nth) return Fate::kGoesOn;
   if (count > g_plan->nth && mode != "always") return Fate::kGoesOn;
-  if (mode == "short") {
-    // So little that the rest takes more than one call.
-    if (size != nullptr) *size = *size > 2 ? 2 : (*size + 1) / 2;
-    return Fate::kGoesOn;
-  }
   if (mode == "kill") {
     if (size == nullptr) raise(SIGKILL);
     *size = (*size + 1) / 2;
@@ -154,7 +148,6 @@ CHANGE(rename, (Text from, Text to), (from, to), std::string(from) + " " + to)
 CHANGE(unlink, (Text path), (path), path)
 CHANGE(unlinkat, (int folder, Text path, int flags), (folder, path, flags), PathOf(folder, path))
 CHANGE(rmdir, (Text path), (path), path)
-CHANGE(remove, (Text path), (path), path)
 CHANGE(symlink, (Text text, Text path), (text, path), path)
 CHANGE(linkat, (int from, Text path, int to, Text name, int flags), (from, path, to, name, flags),
        PathOf(to, name))
@@ -171,7 +164,6 @@ LOOK(fstat, (int fd, struct stat* info), (fd, info), PathOf(fd))
 LOOK(fstatat, (int dir, Text path, struct stat* info, int flags), (dir, path, info, flags),
      PathOf(dir, path))
 FIND(realpath, (Text path, char* text), (path, text), path)
-FIND(opendir, (Text path), (path), path)
 FIND(fdopendir, (int fd), (fd), PathOf(fd))
 FIND(readdir, (DIR * stream), (stream), PathOf(dirfd(stream)))
 

@@ -109,7 +109,9 @@ TEST_F(BundleSwapTest, LeavesTheRightBundleInPlace) {
     SCOPED_TRACE(row.name);
     fs::remove_all(Installation());
     fs::create_directories(Installation());
-    for (const Bundle& bundle : row.before) Make(bundle);
+    for (const Bundle& bundle : row.before) {
+      Make(bundle);
+    }
 
     BundleSwap swap(BundlePath());
     ASSERT_TRUE(swap.MoveAside());

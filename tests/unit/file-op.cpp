@@ -82,7 +82,9 @@ DIR_ENTRY EntryOf(const ustring& path, int flags) {
   DIR_HANDLE handle;
   DIR_ENTRY entry;
   EXPECT_EQ(FSOpenDir(FSParentPath(path), flags, handle), 0);
-  while (FSReadDir(handle, entry) == 1 && entry.name != FSBaseName(path)) continue;
+  while (FSReadDir(handle, entry) == 1 && entry.name != FSBaseName(path)) {
+    continue;
+  }
   EXPECT_EQ(entry.name, FSBaseName(path));
   FSCloseDir(handle);
   EXPECT_EQ(handle.dir, nullptr);

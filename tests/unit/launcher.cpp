@@ -78,7 +78,9 @@ TEST(Launcher, DestroyingItWaitsForTheRunningWorker) {
   auto launcher = std::make_unique<Launcher>();
   launcher->Run();
   launcher->Start();
-  while (!home.Logged("running\n")) std::this_thread::yield();
+  while (!home.Logged("running\n")) {
+    std::this_thread::yield();
+  }
   launcher.reset();
   EXPECT_TRUE(home.Logged("): done\n"));
   QCoreApplication::processEvents();  // what the worker still reported has no receiver any more

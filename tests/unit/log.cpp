@@ -20,7 +20,9 @@ const ustring kComponent = "some_debug";
 
 Entries EntriesOf(const Config& config) {
   Entries entries;
-  for (const auto& [key, value] : config) entries[key.c_str()] = value.c_str();
+  for (const auto& [key, value] : config) {
+    entries[key.c_str()] = value.c_str();
+  }
   return entries;
 }
 
@@ -204,7 +206,9 @@ TEST_F(LoggerTest, LosesAndTearsNoLineOfManyThreads) {
       ASSERT_EQ(line, std::string(1, thread) + " " + std::to_string(next[thread]++) + " " + tail);
     }
   }
-  for (const char thread : threads) EXPECT_EQ(next[thread], kLines) << thread;
+  for (const char thread : threads) {
+    EXPECT_EQ(next[thread], kLines) << thread;
+  }
 }
 
 }  // namespace

@@ -11,7 +11,9 @@ namespace {
 // RC4 under a key, which is repeated to the length that the generator takes.
 struct KeyStream {
   explicit KeyStream(std::string key) {
-    while (key.size() < 256) key += key;
+    while (key.size() < 256) {
+      key += key;
+    }
     TmpNameGen::rc4_init(state, reinterpret_cast<unsigned char*>(key.data()));
   }
   // The next six bytes as a number.
@@ -19,7 +21,9 @@ struct KeyStream {
     unsigned char bytes[6];
     TmpNameGen::rc4_randomize(state, bytes, sizeof bytes);
     uint64_t number = 0;
-    for (const unsigned char byte : bytes) number = number << 8 | byte;
+    for (const unsigned char byte : bytes) {
+      number = number << 8 | byte;
+    }
     return number;
   }
   unsigned char state[256];
@@ -28,7 +32,9 @@ struct KeyStream {
 std::string NameOf(uint64_t number) {
   const char digits[] = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_";
   std::string name;
-  for (int shift = 42; shift >= 0; shift -= 6) name += digits[number >> shift & 63];
+  for (int shift = 42; shift >= 0; shift -= 6) {
+    name += digits[number >> shift & 63];
+  }
   return name;
 }
 

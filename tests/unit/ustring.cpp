@@ -83,7 +83,9 @@ TEST(UString, IllFormedTextIsKeptAndHasNoUtf16) {
       "\x80 \xC3( \xF0\x9F\x98 \xC0\xAF \xF0\x8F\xBF\xBF "  // cut short and overlong
       "\xED\xA0\x80 \xF4\x90\x80\x80 a\xFFz");              // a surrogate and too great
   std::string warnings;
-  for (int i = 0; i < 4; ++i) warnings += "Warning: u_strFromUTF8: error code 10 at line 921\n";
+  for (int i = 0; i < 4; ++i) {
+    warnings += "Warning: u_strFromUTF8: error code 10 at line 921\n";
+  }
   for (ustring text; texts >> text;) {
     testing::internal::CaptureStderr();
     ustring s(text);
@@ -166,7 +168,9 @@ TEST(UString, AgreesWithTheStandardString) {
         std::string("ab/ aAzZ@[\xC3\xA9\x89\x7F").substr(below(12), 2 + below(3));
     const auto make = [&](size_t size) {
       std::string text;
-      while (text.size() < size) text += alphabet[below(alphabet.size())];
+      while (text.size() < size) {
+        text += alphabet[below(alphabet.size())];
+      }
       return text;
     };
     const std::string text = make(below(round % 8 == 0 ? 800 : 7));

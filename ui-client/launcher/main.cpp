@@ -76,7 +76,9 @@ int main(int argc, char** argv) {
   // Nothing may end an upgrade half-way, while no client is in place: neither a line that nobody
   // reads, nor the session's end, nor a limit on the size of files, which makes the write fail
   // anyway.
-  for (const int number : {SIGPIPE, SIGHUP, SIGTERM, SIGXFSZ}) signal(number, SIG_IGN);
+  for (const int number : {SIGPIPE, SIGHUP, SIGTERM, SIGXFSZ}) {
+    signal(number, SIG_IGN);
+  }
   Q_INIT_RESOURCE(texts);
   SetPluginFolder(argc > 0 && argv[0] != nullptr ? argv[0] : "");
 

@@ -28,8 +28,9 @@ QString PropertyOf(const QString& list, const QString& key) {
   bool isNext = false;
   while (!xml.atEnd()) {
     if (xml.readNext() != QXmlStreamReader::StartElement) continue;
-    if (isNext)
+    if (isNext) {
       return xml.name() == QLatin1String("string") ? xml.readElementText().trimmed() : QString();
+    }
     isNext = xml.name() == QLatin1String("key") && xml.readElementText().trimmed() == key;
   }
   return QString();
