@@ -196,8 +196,8 @@ class Config : public std::map<ustring, ustring> {
 #define LOG_LINE_(level, tag, component, format, ...) \
   Logger::LogMsg(level, component, tag " " LOG_UNIT "(%d): " format, __LINE__, ##__VA_ARGS__)
 
-/// Each logs one line, with "[TAG] unit(line): " in front. `format` is a string literal that ends
-/// in "\n".
+/// Each logs one line, with "[TAG] unit(line): " in front. `format` is a string literal. It
+/// should end in "\n": otherwise the next line follows on the same one.
 #define LOG_ERROR(component, format, ...) \
   LOG_LINE_(Logger::LEVEL_ERROR, "[ERROR]", component, format, ##__VA_ARGS__)
 #define LOG_WARNING(component, format, ...) \

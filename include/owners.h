@@ -10,7 +10,7 @@
 #include <utility>
 
 /// @file
-/// Owners of what the C library and the system hand out and want back.
+/// RAII owners for resources of the C library and the system.
 
 /// Frees what `malloc` and its kin returned.
 struct Freer {

@@ -24,12 +24,12 @@ class QtSingleApplication : public QApplication {
   /// the shape of the original; QApplication always has a GUI.
   QtSingleApplication(int& argc, char** argv, bool GUIenabled = true);
 
-  /// Gives the guard back, where this instance holds it.
+  /// Releases the lock if this instance holds it.
   ~QtSingleApplication() override;
 
   /// Whether another instance runs. The first call that finds none makes this instance the one that
-  /// runs, until it is destroyed; later calls are cheap. Main thread only. Waits at most a fifth of
-  /// a second, and only when the lock file names nobody.
+  /// runs, until it is destroyed; later calls are cheap. Main thread only. Waits at most two fifths
+  /// of a second, and only when the lock file names nobody.
   bool isRunning();
 
  private:

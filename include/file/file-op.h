@@ -11,10 +11,11 @@
 ///
 /// Paths are UTF-8 and go to the system as given unless a function says that it normalizes them.
 /// Unless stated otherwise, an operation returns 0 on success and a negative number on failure,
-/// logs its failures under the component "file_op_debug", sets its out-arguments on success only,
-/// never retries and never rolls back. Every function may run on any thread. Descriptors opened
-/// here are not inherited by programs that this process starts. The only exception thrown is
-/// `std::bad_alloc`.
+/// logs failures under the component "file_op_debug" (those of one call that only returns them, as
+/// FSRename() and FSMKDir() do, are the caller's to log), sets its out-arguments on success only,
+/// retries nothing but an interrupted call and never rolls back. Every function may run on any
+/// thread. Descriptors opened here are not inherited by programs that this process starts. The only
+/// exception thrown is `std::bad_alloc`.
 
 /// What a path can be: the values of `_FILE_INFO_tag::type` and `DIR_ENTRY::type`.
 enum FileTypeCode : int {

@@ -1,8 +1,8 @@
 #pragma once
 
-/// Where things lie inside an application bundle, each path once. All are appended to the bundle's
-/// own path. The launcher's bundle and the per-user one share the layout; the comment says whose
-/// file it is.
+/// Where things lie inside an application bundle, each path once. They are appended to the bundle's
+/// own path, but for those that say otherwise. The launcher's bundle and the per-user one share the
+/// layout; the comment says whose file it is.
 
 /// The client's program in the per-user bundle. A bundle without it is incomplete.
 constexpr char kClientProgram[] = "/Contents/MacOS/lumivo-drive-ui";
@@ -13,8 +13,8 @@ constexpr char kPropertyList[] = "/Contents/Info.plist";
 /// The version of the package (launcher's bundle), or of the installed client (per-user bundle).
 constexpr char kVersionFile[] = "/Contents/Resources/INFO";
 
-/// Files of the launcher's bundle: the client's package, and the dialog's icon. Both are relative
-/// to the resource folder.
+/// Files of the launcher's bundle: the client's package, and the dialog's icon. Both are
+/// relative to the resource folder.
 constexpr char kResourceFolder[] = "/Contents/Resources";
 constexpr char kPackage[] = "/package/lumivo.lvp";
 constexpr char kIcon[] = "/images/ico_72_lumivo.png";

@@ -25,8 +25,9 @@ class Extractor {
   /// Nothing is written outside `destination`: absolute names and the targets of hard links are put
   /// below it, names with ".." are refused, and so is an entry whose path leads out of it through a
   /// symbolic link. Links themselves are extracted as they are, and so are hard links to them. An
-  /// entry that names the destination itself is a folder, or refused. Owners, times, ACLs and
-  /// extended attributes are not restored; modes are, less the umask, and with all rights of the
+  /// entry that names the destination itself is a folder, or refused. Owners and times are not
+  /// restored, nor are ACLs and extended attributes, but for what macOS archives carry as metadata
+  /// of their own ("._" files) on macOS; modes are, less the umask, and with all rights of the
   /// owner on folders, so that the tree can be removed again. A zip without the central directory
   /// at its end is refused once that end is reached, and its last entry is not written: it could be
   /// read from the front, but its modes and links would be lost.
