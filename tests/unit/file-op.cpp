@@ -88,6 +88,7 @@ DIR_ENTRY EntryOf(const ustring& path, int flags) {
   EXPECT_EQ(entry.name, FSBaseName(path));
   FSCloseDir(handle);
   EXPECT_EQ(handle.dir, nullptr);
+  EXPECT_EQ(handle.path, "");
   return entry;
 }
 

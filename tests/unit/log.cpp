@@ -10,6 +10,15 @@
 
 #include "support/tree.h"
 
+static std::string g_system_log;  // what would have reached it
+
+// In place of the system's.
+extern "C" void vsyslog(int priority, const char* format, va_list args) {
+  char text[64];
+  vsnprintf(text, sizeof text, format, args);
+  g_system_log += std::to_string(priority) + " " + text;
+}
+
 namespace {
 
 using Entries = std::map<std::string, std::string>;
@@ -129,12 +138,13 @@ TEST_F(LoggerTest, WritesWhatTheComponentsLevelLetsThrough) {
   EXPECT_EQ(highest("minus"), 0);
 }
 
-TEST_F(LoggerTest, StampsEveryOutputWithTheLocalTime) {
+TEST_F(LoggerTest, StampsEveryOutputButTheSystemLogWithTheLocalTime) {
   setenv("TZ", "ABC-5:30", 1);
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
   const time_t before = time(nullptr);
-  for (const auto type : {Logger::TYPE_STDOUT, Logger::TYPE_STDERR, Logger::TYPE_FILE}) {
+  for (const auto type :
+       {Logger::TYPE_STDOUT, Logger::TYPE_STDERR, Logger::TYPE_FILE, Logger::TYPE_SYSLOG}) {
     ASSERT_EQ(Logger::Initialize(type, log, "", 50), 0);
     Logger::LogMsg(Logger::LEVEL_WARNING, kComponent, "no end %d", 2);
   }
@@ -149,6 +159,7 @@ TEST_F(LoggerTest, StampsEveryOutputWithTheLocalTime) {
   for (const std::string& text : {out, err, ReadFile(log)}) {
     EXPECT_EQ(possible.count(text), 1U) << text;
   }
+  EXPECT_EQ(g_system_log, "3 no end 2") << "one priority for all levels";
 }
 
 TEST_F(LoggerTest, RotatesAfterTheLineThatCrossesTheLimit) {
@@ -175,6 +186,7 @@ TEST_F(LoggerTest, KeepsOneOldFileLessThanItsDepth) {
   MakeTree(dir.path, {{"log", "file: d"}, {"log_0", "file: a"}});
   MakeTree(dir.path, {{"log_1", "file: b"}, {"log_2", "file: c"}});
   Open(3);
+  Logger::DestroySharedData();  // it is made anew
   EXPECT_EQ(Logger::Rotate(), 0);
   EXPECT_EQ(TreeOf(dir.path),
             (Tree{{"log", "file: "}, {"log_0", "file: d"}, {"log_1", "file: a"}}));

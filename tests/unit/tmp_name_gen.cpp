@@ -44,6 +44,22 @@ TEST(TmpNameGen, DrawsThePublishedKeyStreams) {  // of RFC 6229 and the cipher's
   EXPECT_EQ(KeyStream("Wiki").Next(), 0x6044db6d41b7);
 }
 
+TEST(TmpNameGen, FillsAnEmptyKeyFromTheTime) {
+  unsigned char state[256];
+  unsigned char key[256] = {};
+  time_t seed = time(nullptr);
+  TmpNameGen::rc4_init(state, key);
+  std::string expected;
+  for (; expected != std::string(key, key + 256) && seed <= time(nullptr); ++seed) {
+    srand(static_cast<unsigned>(seed));
+    expected.clear();
+    while (expected.size() < 256) {
+      expected += static_cast<char>(rand());
+    }
+  }
+  EXPECT_EQ(std::string(key, key + 256), expected);
+}
+
 TEST(TmpNameGen, NamesFollowFromTheMicrosecondOfCreation) {
   using std::chrono::microseconds;
   TmpNameGen generator;
