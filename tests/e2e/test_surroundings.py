@@ -2,7 +2,6 @@
 
 import dataclasses
 import os
-import re
 from typing import Optional
 
 from support import ORDINARY_USER, Case, tree
@@ -75,15 +74,6 @@ class Surroundings(UpgradeCase):
         process.stderr.close()
         self.assertEqual(process.wait(timeout=60), 0)
         self.assert_client_runs(NEW)
-
-
-class LogLevels(Case):
-    def test_they_decide_what_is_logged(self):
-        self.put_package(OLD)
-        for levels, logged in {"": ["ERROR"], "service_debug=6\n": ["ERROR", "INFO"]}.items():
-            (self.bundle / "log/launcher.debug").write_text(levels)
-            self.run_launcher()
-            self.assertEqual(sorted(set(re.findall(r"\[([A-Z]+)\]", self.log()))), logged)
 
 
 class UnusableHome(Case):
