@@ -274,6 +274,7 @@ TEST_F(ExtractorTest, AZipThatIsCutFailsWhereItEnds) {
     EXPECT_EQ(extractor.Extract(), -1);
     EXPECT_EQ(reports.last().toStdString(), row.lastReport);
     EXPECT_TRUE(home.Logged(row.logged)) << home.Log();
+    EXPECT_FALSE(home.Logged("archive_read_extract2: ")) << "the system refused nothing";
     EXPECT_EQ(TreeOf(home.folder / "in"), (Tree{{"1", "file: one"}})) << "no end without the rest";
   }
 }
