@@ -36,6 +36,8 @@ class ConcurrentStarts(UpgradeCase):
 
         wait_for(lambda: len(running()) == 1, "nineteen leave")
         self.assertNotIn("extract package", self.log(), "they leave at once")
+        (lock,) = self.temporary.glob("*.lock")
+        self.assertEqual(oct(lock.stat().st_mode & 0o777), "0o600", "nobody else can hold it")
         for process in running():
             process.send_signal(signal.SIGTERM)
             process.send_signal(signal.SIGHUP)
