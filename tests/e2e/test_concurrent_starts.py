@@ -62,11 +62,11 @@ class ConcurrentStarts(UpgradeCase):
         wait_for(lambda: "local appdata exist" in self.log(), "the stop of the client")
         slow.send_signal(signal.SIGSTOP)
         self.addCleanup(slow.kill)
-        before, clients = time.monotonic(), self.clients()
+        before, client = time.monotonic(), self.wait_for_client()
         self.run_launcher(bundle=self.copy_bundle("Copy.app"))
         self.assertGreaterEqual(time.monotonic() - before, TURN_SECONDS)
         self.assertEqual(self.build_on_disk(), OLD)
-        self.assertEqual(self.clients(), clients, "nothing was started or ended")
+        self.assertEqual(self.wait_for_client(), client, "nothing was started or ended")
         self.assert_logged(
             f"[NOTE] launcher(%d): another launcher is working on '{self.app.parent}', waiting",
             f"[WARNING] launcher(%d): another launcher is still working on '{self.app.parent}'",
