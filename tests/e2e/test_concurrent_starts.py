@@ -63,7 +63,9 @@ class ConcurrentStarts(UpgradeCase):
         slow.send_signal(signal.SIGSTOP)
         self.addCleanup(slow.kill)
         before, client = time.monotonic(), self.wait_for_client()
-        self.run_launcher(bundle=self.copy_bundle("Copy.app"))
+        copy = self.copy_bundle("Copy.app")
+        self.put_package(NEXT, copy)
+        self.run_launcher(bundle=copy)
         self.assertGreaterEqual(time.monotonic() - before, TURN_SECONDS)
         self.assertEqual(self.build_on_disk(), OLD)
         self.assertEqual(self.wait_for_client(), client, "nothing was started or ended")
@@ -71,9 +73,11 @@ class ConcurrentStarts(UpgradeCase):
             f"[NOTE] launcher(%d): another launcher is working on '{self.app.parent}', waiting",
             f"[WARNING] launcher(%d): another launcher is still working on '{self.app.parent}'",
         )
+        self.set_client_mode("end")
+        next_in_turn = self.start(bundle=copy)
         slow.send_signal(signal.SIGCONT)
-        self.assert_all_end_well(slow)
-        self.assert_client_runs(NEW)
+        self.assert_all_end_well(slow, next_in_turn)
+        self.assert_client_runs(NEXT)
 
 
 class LockFile(SweepCase):
