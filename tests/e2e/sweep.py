@@ -92,6 +92,8 @@ class SweepCase(UpgradeCase):
             # Nothing could be moved any more, but the old client is not lost.
             backup = tree(self.app.parent / "Lumivo.app_tmp")
             self.assert_same_tree(backup, self.package(OLD).nodes)
+            if self.log():
+                self.assert_logged("failed to restore app from '")
             return
         self.assert_client_runs(*((OLD,) if sweep.damage else (OLD, NEW)))
         if build == OLD and self.log():

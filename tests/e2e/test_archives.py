@@ -104,7 +104,7 @@ class Archives(UpgradeCase):
     def test_no_package_or_a_folder(self):
         self.archive().unlink()
         self.run_launcher()
-        self.assert_refused("[ERROR] extractor(%d): ")
+        self.assert_refused("[ERROR] extractor(%d): archive_read_open_filename failed: '")
         self.begin(package=None)
         self.archive().mkdir()
         self.run_launcher()

@@ -39,6 +39,11 @@ class Libraries(Case):
                 expected = [("RPATH", "$ORIGIN/../Frameworks")] if path == LAUNCHER else []
                 self.assertEqual(folders, expected)
 
+    def test_qt_takes_its_plugins_from_nowhere_else(self):
+        (self.bundle / "Contents/Frameworks/plugins").rename(self.folder / "plugins")
+        _, errors = self.start().communicate(timeout=60)
+        self.assertIn("no Qt platform plugin could be initialized", errors)
+
     def test_packages_are_read_back_by_the_libarchive_that_ships(self):
         loaded = subprocess.run(["ldd", READER], check=True, capture_output=True, text=True).stdout
         name, path = re.search(r"(libarchive\S+) => (\S+)", loaded).groups()

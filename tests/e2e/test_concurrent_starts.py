@@ -36,6 +36,8 @@ class ConcurrentStarts(UpgradeCase):
 
         wait_for(lambda: len(running()) == 1, "nineteen leave")
         self.assertNotIn("extract package", self.log(), "they leave at once")
+        (lock,) = self.temporary.glob("*.lock")
+        self.assertEqual(oct(lock.stat().st_mode & 0o777), "0o600", "nobody else can hold it")
         for process in running():
             process.send_signal(signal.SIGTERM)
             process.send_signal(signal.SIGHUP)
@@ -60,18 +62,22 @@ class ConcurrentStarts(UpgradeCase):
         wait_for(lambda: "local appdata exist" in self.log(), "the stop of the client")
         slow.send_signal(signal.SIGSTOP)
         self.addCleanup(slow.kill)
-        before, clients = time.monotonic(), self.clients()
-        self.run_launcher(bundle=self.copy_bundle("Copy.app"))
+        before, client = time.monotonic(), self.wait_for_client()
+        copy = self.copy_bundle("Copy.app")
+        self.put_package(NEXT, copy)
+        self.run_launcher(bundle=copy)
         self.assertGreaterEqual(time.monotonic() - before, TURN_SECONDS)
         self.assertEqual(self.build_on_disk(), OLD)
-        self.assertEqual(self.clients(), clients, "nothing was started or ended")
+        self.assertEqual(self.wait_for_client(), client, "nothing was started or ended")
         self.assert_logged(
             f"[NOTE] launcher(%d): another launcher is working on '{self.app.parent}', waiting",
             f"[WARNING] launcher(%d): another launcher is still working on '{self.app.parent}'",
         )
+        self.set_client_mode("end")
+        next_in_turn = self.start(bundle=copy)
         slow.send_signal(signal.SIGCONT)
-        self.assert_all_end_well(slow)
-        self.assert_client_runs(NEW)
+        self.assert_all_end_well(slow, next_in_turn)
+        self.assert_client_runs(NEXT)
 
 
 class LockFile(SweepCase):

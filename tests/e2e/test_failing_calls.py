@@ -27,7 +27,7 @@ class FailingCalls(SweepCase):
 
     def test_a_full_disk_is_named_in_the_log(self):
         self.meet_fault(Sweep("write", "once", "/.Lumivo/Lumivo.app"), 1, errno.ENOSPC)
-        self.assert_logged("extract2: No space left on device (28)\n", *ROLLED_BACK)
+        self.assert_logged("archive_read_extract2: No space left on device (28)\n", *ROLLED_BACK)
 
     def test_a_look_at_the_old_client_that_fails(self):
         # Taken for missing, it would stay where the new one is extracted.

@@ -24,10 +24,16 @@ class Installation(Case):
         new = self.install(NEW)
         self.assertFalse(alive(old), "the old client has ended")
         self.assertTrue(alive(new), "the new one runs")
+        self.assertNotIn("Failed", self.log())
         self.assert_logged(
+            f"[INFO] lumivo-service(%d): target_version = (1, 0, {NEW}, 1)\n",
+            f"[INFO] lumivo-service(%d): source_version = (1, 0, {OLD}, 1)\n",
+            f"[DEBUG] mac/mac-service(%d): Source version: ('{OLD}', '1')\n",
+            f"[DEBUG] mac/mac-service(%d): Target version: ('{NEW}', '1')\n",
             f"[DEBUG] mac/mac-service(%d): source version = {OLD}, target version = {NEW}\n",
             "[DEBUG] mac/mac-service(%d): local appdata exist\n",
-            "[INFO] lumivo-service(%d): extract package: '",
+            f"[INFO] lumivo-service(%d): extract package: '{self.archive()}' -> '{self.app}'\n",
+            f"[DEBUG] extractor(%d): decompress from '{self.archive()}' to '{self.app}'\n",
             "[INFO] lumivo-service(%d): user installation is ready, removing backup app\n",
             "[DEBUG] launcher(%d): done\n",
         )

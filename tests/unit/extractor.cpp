@@ -157,6 +157,10 @@ TEST_F(ExtractorTest, NothingIsWrittenOutside) {
        {Folder("d"), Link("d/here", "."), Link("out", "d/here/../../in2"), File("out/evil", "e")},
        -1,
        {{"d", "folder"}, {"d/here", "link: ."}, {"out", "link: d/here/../../in2"}}},
+      {"through a link in a folder that was written to",
+       {Folder("a"), Link("a/out", "../../in2"), File("a/1"), File("a/out/evil", "e")},
+       -1,
+       {{"a", "folder"}, {"a/1", "file: "}, {"a/out", "link: ../../in2"}}},
       {"through a link to what is not there",
        {Link("out", "../new"), File("out/evil", "e")},
        -1,
@@ -270,6 +274,7 @@ TEST_F(ExtractorTest, AZipThatIsCutFailsWhereItEnds) {
     EXPECT_EQ(extractor.Extract(), -1);
     EXPECT_EQ(reports.last().toStdString(), row.lastReport);
     EXPECT_TRUE(home.Logged(row.logged)) << home.Log();
+    EXPECT_FALSE(home.Logged("archive_read_extract2: ")) << "the system refused nothing";
     EXPECT_EQ(TreeOf(home.folder / "in"), (Tree{{"1", "file: one"}})) << "no end without the rest";
   }
 }

@@ -32,6 +32,7 @@ TEST(Launcher, DialogShowsWhatIsReportedAndCannotBeCanceled) {
   QProgressDialog* dialog = Dialog();
   EXPECT_FALSE(dialog->isVisible());
   EXPECT_EQ(dialog->windowModality(), Qt::WindowModal);
+  EXPECT_EQ(dialog->font().toString().toStdString(), QFont("Arial").toString().toStdString());
   EXPECT_TRUE(dialog->findChildren<QPushButton*>().isEmpty());
   dialog->show();
   const Report reports[] = {
