@@ -68,6 +68,7 @@ class Installation(Case):
             "[ERROR] lumivo-service(%d): "
             "Failed to extract package, and no old installation to rollback\n",
             "[ERROR] launcher(%d): Failed to upgrade package\n",
+            "/lumivo-drive-ui): No such file or directory (2)\n",
             "[ERROR] mac/mac-service(%d): Failed to launch Lumivo UI\n",
         )
         self.assertEqual(self.clients(), [])

@@ -7,15 +7,21 @@
 #include <QProcess>
 #include <QXmlStreamReader>
 #include <array>
+#include <cstring>
 #include <vector>
 
 #include "bundle-layout.h"
 #include "mac/launch-services.h"
 #include "own-time-zone.h"
 
+#define LOG_UNIT "mac/launch-services"
+#include "log.h"
+
 extern char** environ;
 
 namespace {
+
+const ustring kComponent = "service_debug";
 
 constexpr int kToolMissing = -2;  // as QProcess::execute reports it
 
@@ -92,8 +98,11 @@ bool StartDetached(const QByteArray& program) {
   QByteArray name = program;
   std::array<char*, 2> arguments = {name.data(), nullptr};
   pid_t pid = 0;
-  return posix_spawn(&pid, program.constData(), &plan.files, &plan.attributes, arguments.data(),
-                     EnvironmentForClient().data()) == 0;
+  const int error = posix_spawn(&pid, program.constData(), &plan.files, &plan.attributes,
+                                arguments.data(), EnvironmentForClient().data());
+  if (error == 0) return true;
+  LOG_ERROR(kComponent, "posix_spawn(%s): %s (%d)\n", program.constData(), strerror(error), error);
+  return false;
 }
 
 }  // namespace

@@ -21,5 +21,6 @@ int UnregisterBundle(const QString& bundle);
 /// streams lead to /dev/null, no signal is blocked or ignored, and it inherits no other descriptor,
 /// neither the launcher's nor one that the launcher inherited.
 ///
-/// @return whether the platform accepted to start it; what becomes of it is not waited for
+/// @return whether the platform accepted to start it, with the reason in the log where it names
+/// one; what becomes of it is not waited for
 bool OpenBundle(const QString& bundle);
