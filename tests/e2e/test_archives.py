@@ -101,13 +101,8 @@ class Archives(UpgradeCase):
                     self.assert_refused("[ERROR] extractor(%d): ")
                 self.assert_removable()
 
-    def test_no_package_or_a_folder(self):
+    def test_no_package(self):
         self.archive().unlink()
         self.run_launcher()
         self.assert_refused("[ERROR] extractor(%d): archive_read_open_filename failed: '")
-        self.begin(package=None)
-        self.archive().mkdir()
-        self.run_launcher()
-        self.assert_refused("[ERROR] extractor(%d): ")
-        self.archive().rmdir()
         self.assert_removable()

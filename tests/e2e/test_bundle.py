@@ -180,7 +180,3 @@ class Ship(unittest.TestCase):
 
     def test_nothing_is_notarized_unsigned(self):
         self.assertEqual(self.ship(LUMIVO_NOTARY_PROFILE="Keys"), (1, []))
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)

@@ -10,13 +10,11 @@ MISSED = "[NOTE] mac/mac-service(%d): Failed to read pid file '"
 
 
 class ClientStop(UpgradeCase):
-    def assert_upgrade_takes(self, seconds):
+    def assert_upgrade_takes_at_least(self, seconds):
         """Each look at whether the client has gone is a second after the one before."""
         start = time.monotonic()
         self.run_launcher()
-        took = time.monotonic() - start
-        self.assertGreaterEqual(took, seconds)
-        self.assertLess(took, seconds + 2 + os.getloadavg()[0])
+        self.assertGreaterEqual(time.monotonic() - start, seconds)
 
     def start_a_client(self, mode):
         self.begin(package=OLD)
@@ -30,7 +28,7 @@ class ClientStop(UpgradeCase):
         for mode, seconds in {"end": 0, "linger": 2, "ignore": 5}.items():
             with self.subTest(mode):
                 client = self.start_a_client(mode)
-                self.assert_upgrade_takes(seconds)
+                self.assert_upgrade_takes_at_least(seconds)
                 self.assertFalse(alive(client), "the old client has ended")
                 self.assert_client_runs(NEW)
 

@@ -71,7 +71,8 @@ class ConcurrentStarts(UpgradeCase):
         self.assertEqual(self.wait_for_client(), client, "nothing was started or ended")
         self.assert_logged(
             f"[NOTE] launcher(%d): another launcher is working on '{self.app.parent}', waiting",
-            f"[WARNING] launcher(%d): another launcher is still working on '{self.app.parent}'",
+            f"[WARNING] launcher(%d): another launcher is still working on '{self.app.parent}', "
+            "leaving it alone\n",
         )
         self.set_client_mode("end")
         next_in_turn = self.start(bundle=copy)

@@ -8,7 +8,6 @@ import stat
 import subprocess
 import sys
 import tempfile
-import unittest
 import zipfile
 import zlib
 from typing import NamedTuple
@@ -314,7 +313,3 @@ class MakePackage(Case):
         listed = subprocess.run(["bsdtar", "-tvf", package], capture_output=True, text=True)
         lines = [line.split() for line in listed.stdout.splitlines()]
         self.assertEqual({line[-1]: int(line[4]) for line in lines}, expected)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -265,7 +265,3 @@ class Power(Case):
         lost = self.differences(new)
         self.assertNotIn(os.fsencode(INFO), lost)
         self.assertIn(os.fsencode(EXECUTABLE), lost)
-
-
-if __name__ == "__main__":
-    unittest.main(verbosity=2)
