@@ -13,7 +13,8 @@
 static std::string g_system_log;  // what would have reached it
 
 // In place of the system's.
-extern "C" void vsyslog(int priority, const char* format, va_list args) {
+extern "C" __attribute__((format(printf, 2, 0))) void vsyslog(int priority, const char* format,
+                                                              va_list args) {
   char text[64];
   vsnprintf(text, sizeof text, format, args);
   g_system_log += std::to_string(priority) + " " + text;
