@@ -1,12 +1,10 @@
 #include "file/file-op.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -15,7 +13,6 @@
 #include <vector>
 
 #include "log.h"
-#include "owners.h"
 #include "support/temp-dir.h"
 #include "support/tree.h"
 
@@ -176,6 +173,18 @@ TEST_F(FileOp, MissingFoldersAreMadeAlongThePath) {
   EXPECT_EQ(ModeOf("a/m"), 0777U);
   EXPECT_EQ(FSMKDir(dir_ / "way/b/c", true), 0);
   EXPECT_EQ(ModeOf("d/b"), 0750U) << "less the umask, which is as it was";
+}
+
+TEST_F(FileOp, FoldersMadeAtTheSameTimeLeaveTheUmaskAsItWas) {
+  const auto makeFolder = [] {
+    for (int round = 0; round < 20000; ++round) {
+      FSMKDirP("d", nullptr, false, 0777);
+    }
+  };
+  const auto other = std::async(std::launch::async, makeFolder);
+  makeFolder();
+  other.wait();
+  EXPECT_EQ(umask(027), mode_t{027});
 }
 
 TEST_F(FileOp, FoldersAreMadeOrWhatIsInTheWayIsReported) {
