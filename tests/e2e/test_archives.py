@@ -5,12 +5,12 @@ import io
 import os
 import random
 import tarfile
+import zipfile
 
 from support import CLIENT, EXECUTABLE, FULL, INFO, ORDINARY_USER
 from upgrade import INSTALLED, NEW, NEXT, OLD, ROLLED_BACK, UpgradeCase
 
 FOLDER, HARD_LINK = tarfile.DIRTYPE, tarfile.LNKTYPE
-REFUSED = "[ERROR] extractor(%d): archive_read_extract2 failed: '"
 LONGEST_NAME = "n" * 255
 PATH_BEYOND_THE_LIMIT = "/".join(f"{number:03}" + "ö" * 20 for number in range(120))
 
@@ -86,6 +86,9 @@ class Archives(UpgradeCase):
 
     def test_packages_with_a_bit_changed(self):
         whole, contents = self.archive().read_bytes(), self.file_contents()
+        with zipfile.ZipFile(self.archive()) as package:
+            checksum = package.getinfo(EXECUTABLE).CRC.to_bytes(4, "little")
+        contents.append(range(whole.rindex(checksum), whole.rindex(checksum) + len(checksum)))
         choice = random.Random(2)
         places = choice.sample(range(len(whole)), 300 if FULL else 10)
         places += [choice.choice(content) for content in contents]

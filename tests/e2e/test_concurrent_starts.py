@@ -9,7 +9,6 @@ from support import FULL, wait_for
 from sweep import Sweep, SweepCase
 from upgrade import NEW, NEXT, OLD, UpgradeCase
 
-ALREADY_RUNS = "[DEBUG] main(%d): app has already launched, return\n"
 TURN_SECONDS = 10  # that a launcher waits for another one's work on the installation
 
 
@@ -19,7 +18,7 @@ class ConcurrentStarts(UpgradeCase):
             _, errors = process.communicate(timeout=60)
             self.assertEqual(process.returncode, 0, errors)
 
-    def start_with_five_seconds_work(self, **options):
+    def start_with_five_seconds_work(self):
         """Replaces a client that has to be ended with force."""
         self.begin(package=OLD)
         self.set_client_mode("ignore")

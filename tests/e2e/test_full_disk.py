@@ -41,10 +41,3 @@ class FullDisk(UpgradeCase):
                 self.assert_next_starts_mend()
                 self.end_clients()
                 subprocess.run(["rm", "-r", self.home], check=True)
-
-    def test_a_full_disk_of_the_log(self):
-        log = self.home / ".Lumivo/log"
-        self.mount("-t", "tmpfs", "-o", "size=4k", "none", at=log)
-        self.fill(log, 0)
-        self.run_launcher()
-        self.assert_client_runs(NEW)
